@@ -1,0 +1,15 @@
+# Warnings for our own targets. Third-party headers come in as SYSTEM and stay quiet.
+function(iw_set_warnings target)
+  if(MSVC)
+    target_compile_options(${target} PRIVATE /W4)
+    if(IW_WERROR)
+      target_compile_options(${target} PRIVATE /WX)
+    endif()
+  else()
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
+                                             -Wcast-align -Woverloaded-virtual -Wimplicit-fallthrough)
+    if(IW_WERROR)
+      target_compile_options(${target} PRIVATE -Werror)
+    endif()
+  endif()
+endfunction()
