@@ -1,8 +1,35 @@
-#include <cstdio>
+// iconwright-cli: the icon core for scripts and the command line.
+
+#include <iostream>
+#include <string>
+
+#include "Commands.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: iconwright-cli COMMAND [ARGS]\n"
+    "\n"
+    "commands:\n"
+    "  info [--json] FILE   list the images of an icon, cursor or animated cursor\n"
+    "\n"
+    "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
+
+}  // namespace
 
 int main(int argc, char** argv) {
-    (void)argc;
-    (void)argv;
-    std::puts("iconwright-cli");
-    return 0;
+    using namespace iw::cli;
+    if (argc < 2) {
+        std::cerr << kUsage;
+        return kExitUsage;
+    }
+    const std::string command = argv[1];
+    const Args args(argv + 2, argv + argc);
+    if (IsHelpFlag(command)) {
+        std::cout << kUsage;
+        return kExitOk;
+    }
+    if (command == "info") return RunInfo(args);
+    std::cerr << "iconwright-cli: unknown command '" << command << "'\n" << kUsage;
+    return kExitUsage;
 }

@@ -18,9 +18,15 @@ inline constexpr bool IsMarker(PackedColor c) {
     return c == TransparentColor || c == InverseColor;
 }
 
-inline constexpr int RedOf(PackedColor c) { return c & 0xFF; }
-inline constexpr int GreenOf(PackedColor c) { return (c / 256) & 0xFF; }
-inline constexpr int BlueOf(PackedColor c) { return (c / 65536) & 0xFF; }
+inline constexpr int RedOf(PackedColor c) {
+    return c & 0xFF;
+}
+inline constexpr int GreenOf(PackedColor c) {
+    return (c / 256) & 0xFF;
+}
+inline constexpr int BlueOf(PackedColor c) {
+    return (c / 65536) & 0xFF;
+}
 
 // Recomposes a colour; a channel above 255 is taken as 255 (and one below 0 as 0).
 inline constexpr PackedColor PackColor(int red, int green, int blue) {

@@ -7,15 +7,22 @@ namespace iw {
 
 std::int16_t& IconInfo::Field(int index) {
     switch (index) {
-        case 0: return widthMinus1;
-        case 1: return heightMinus1;
-        case 2: return bitCount;
-        case 3: return rate;
-        default: return png;
+        case 0:
+            return widthMinus1;
+        case 1:
+            return heightMinus1;
+        case 2:
+            return bitCount;
+        case 3:
+            return rate;
+        default:
+            return png;
     }
 }
 
-std::int16_t IconInfo::Field(int index) const { return const_cast<IconInfo*>(this)->Field(index); }
+std::int16_t IconInfo::Field(int index) const {
+    return const_cast<IconInfo*>(this)->Field(index);
+}
 
 IconImage::IconImage()
     : cells_(static_cast<std::int32_t*>(std::calloc(2 * kPlaneCells, sizeof(std::int32_t)))) {

@@ -31,7 +31,7 @@ struct IconInfo {
 };
 
 class IconImage {
-public:
+  public:
     static constexpr int kSide = 256;
     static constexpr int kPlaneCells = kSide * kSide;
     enum Plane : int { ColorPlane = 0, AlphaPlane = 1 };
@@ -74,10 +74,10 @@ public:
     // can write it again instead of encoding anew. Any change to the pixels must drop it.
     std::vector<std::uint8_t> originalPng;
 
-private:
+  private:
     static std::size_t Index(int x, int y, int plane) {
-        return static_cast<std::size_t>(plane) * kPlaneCells +
-               static_cast<std::size_t>(y) * kSide + static_cast<std::size_t>(x);
+        return static_cast<std::size_t>(plane) * kPlaneCells + static_cast<std::size_t>(y) * kSide +
+               static_cast<std::size_t>(x);
     }
     struct FreeCells {
         void operator()(std::int32_t* p) const { std::free(p); }

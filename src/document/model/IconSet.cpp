@@ -8,7 +8,8 @@ namespace iw {
 std::string UpperExtension3(const std::string& path) {
     if (path.size() < 3) return {};
     std::string tail = path.substr(path.size() - 3);
-    for (char& c : tail) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    for (char& c : tail)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     return tail;
 }
 
@@ -47,6 +48,8 @@ void IconSet::MoveIcon(int from, int to) {
     images_.insert(images_.begin() + to, std::move(moving));
 }
 
-void IconSet::Clear() { images_.clear(); }
+void IconSet::Clear() {
+    images_.clear();
+}
 
 }  // namespace iw

@@ -21,8 +21,8 @@ std::string UpperExtension3(const std::string& path);
 
 // The set's properties, kept together in this order.
 struct IconSetProperties {
-    std::string name;    // animated cursors: INAM
-    std::string artist;  // animated cursors: IART
+    std::string name;           // animated cursors: INAM
+    std::string artist;         // animated cursors: IART
     std::int16_t hotspotX = 0;  // one hotspot for the whole set (cursors and every ANI frame)
     std::int16_t hotspotY = 0;
     std::string sequence;  // frame indices, each followed by ","
@@ -30,12 +30,12 @@ struct IconSetProperties {
 
 // Animation data beside the per-image rates.
 struct AnimationData {
-    std::string ratesText;     // the rates as read, joined by "|"
+    std::string ratesText;  // the rates as read, joined by "|"
     bool sequenceInUse = false;
 };
 
 class IconSet {
-public:
+  public:
     static constexpr int kMaxImages = 175;
     static constexpr int kMaxSide = 256;
 
@@ -71,7 +71,7 @@ public:
     IconSetProperties properties;
     AnimationData animation;
 
-private:
+  private:
     std::vector<IconImage> images_;
 };
 

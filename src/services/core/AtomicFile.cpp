@@ -1,8 +1,8 @@
 #include "services/core/AtomicFile.h"
 
 #include <atomic>
-#include <chrono>
 #include <cerrno>
+#include <chrono>
 
 #ifdef _WIN32
 #include <io.h>
@@ -36,7 +36,9 @@ bool FlushToDisk(std::FILE* file) {
 
 }  // namespace
 
-AtomicFile::~AtomicFile() { Discard(); }
+AtomicFile::~AtomicFile() {
+    Discard();
+}
 
 bool AtomicFile::Open(const std::filesystem::path& target) {
     Discard();

@@ -12,7 +12,7 @@
 namespace iw {
 
 class AtomicFile {
-public:
+  public:
     AtomicFile() = default;
     ~AtomicFile();  // an uncommitted file is discarded
     AtomicFile(const AtomicFile&) = delete;
@@ -32,7 +32,7 @@ public:
     bool Failed() const { return failed_; }
     std::size_t BytesWritten() const { return written_; }
 
-private:
+  private:
     std::FILE* file_ = nullptr;
     std::filesystem::path target_;
     std::filesystem::path temp_;

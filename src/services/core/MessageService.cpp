@@ -8,24 +8,32 @@ namespace iw {
 
 int MessageIconIndex(MessageType type) {
     switch (type) {
-        case MessageType::Exclamation: return 1;
-        case MessageType::Critical: return 3;
-        case MessageType::Information: return 4;
-        case MessageType::Question: return 2;
+        case MessageType::Exclamation:
+            return 1;
+        case MessageType::Critical:
+            return 3;
+        case MessageType::Information:
+            return 4;
+        case MessageType::Question:
+            return 2;
     }
     return 1;
 }
 
 namespace {
 
-std::string FlagPath(std::string_view key) { return "Messages\\" + std::string(key); }
+std::string FlagPath(std::string_view key) {
+    return "Messages\\" + std::string(key);
+}
 
 MessageAnswer DefaultAnswer(MessageButtons buttons) {
     switch (buttons) {
         case MessageButtons::YesNo:
-        case MessageButtons::YesNoCancel: return MessageAnswer::Yes;
+        case MessageButtons::YesNoCancel:
+            return MessageAnswer::Yes;
         case MessageButtons::Ok:
-        case MessageButtons::OkCancel: return MessageAnswer::Ok;
+        case MessageButtons::OkCancel:
+            return MessageAnswer::Ok;
     }
     return MessageAnswer::Ok;
 }

@@ -15,7 +15,7 @@ namespace iw {
 int MessageIconIndex(MessageType type);
 
 class MessageService {
-public:
+  public:
     MessageService(XmlStore& messageStore, IMessagePresenter& presenter)
         : store_(messageStore), presenter_(presenter) {}
 
@@ -35,7 +35,7 @@ public:
 
     XmlStore& Store() { return store_; }
 
-private:
+  private:
     XmlStore& store_;
     IMessagePresenter& presenter_;
 };

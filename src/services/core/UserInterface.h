@@ -36,14 +36,14 @@ struct MessageBoxResult {
 };
 
 class IMessagePresenter {
-public:
+  public:
     virtual ~IMessagePresenter() = default;
     virtual MessageBoxResult Present(const MessageBoxRequest& request) = 0;
 };
 
 // Status bar text, a progress bar and a chance for the window to repaint.
 class IProgressSink {
-public:
+  public:
     virtual ~IProgressSink() = default;
     virtual void SetStatus(std::string_view text) = 0;
     virtual void SetProgress(int done, int total) = 0;
@@ -53,21 +53,21 @@ public:
 
 // The log list shown with "/log": progress tags added by the writers.
 class ILogSink {
-public:
+  public:
     virtual ~ILogSink() = default;
     virtual void AddLogEntry(std::string_view tag) = 0;
 };
 
 // Do-nothing implementations for callers that have nowhere to report.
 class NullProgress final : public IProgressSink {
-public:
+  public:
     void SetStatus(std::string_view) override {}
     void SetProgress(int, int) override {}
     void Yield() override {}
 };
 
 class NullLog final : public ILogSink {
-public:
+  public:
     void AddLogEntry(std::string_view) override {}
 };
 

@@ -15,8 +15,10 @@ namespace {
 constexpr const char* kRootName = "XML";
 
 std::vector<std::string_view> SplitPath(std::string_view path) {
-    while (!path.empty() && path.front() == '\\') path.remove_prefix(1);
-    while (!path.empty() && path.back() == '\\') path.remove_suffix(1);
+    while (!path.empty() && path.front() == '\\')
+        path.remove_prefix(1);
+    while (!path.empty() && path.back() == '\\')
+        path.remove_suffix(1);
     std::vector<std::string_view> steps;
     while (!path.empty()) {
         std::size_t cut = path.find('\\');
@@ -44,12 +46,23 @@ bool IsElementName(std::string_view name) {
 void AppendEscaped(std::string& out, std::string_view text) {
     for (char c : text) {
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            case '\'': out += "&apos;"; break;
-            default: out += c;
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            case '\'':
+                out += "&apos;";
+                break;
+            default:
+                out += c;
         }
     }
 }
@@ -91,7 +104,9 @@ bool ParseStoreBool(std::string_view text, bool fallback) {
     return fallback;
 }
 
-XmlStore::XmlStore() : doc_(std::make_unique<pugi::xml_document>()) { Clear(); }
+XmlStore::XmlStore() : doc_(std::make_unique<pugi::xml_document>()) {
+    Clear();
+}
 XmlStore::~XmlStore() = default;
 
 void XmlStore::Clear() {

@@ -15,7 +15,7 @@ class xml_document;
 namespace iw {
 
 class XmlStore {
-public:
+  public:
     XmlStore();
     ~XmlStore();
     XmlStore(const XmlStore&) = delete;
@@ -48,7 +48,7 @@ public:
     // Back to "<XML></XML>" (the path is kept, so the emptied store is written on save).
     void Clear();
 
-private:
+  private:
     std::unique_ptr<pugi::xml_document> doc_;
     std::filesystem::path path_;
 };

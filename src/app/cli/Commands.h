@@ -1,0 +1,10 @@
+#pragma once
+
+#include "CliSupport.h"
+
+namespace iw::cli {
+
+// Each command takes the arguments after its name and returns the process's exit code.
+int RunInfo(const Args& args);
+
+}  // namespace iw::cli

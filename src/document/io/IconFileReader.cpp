@@ -1,0 +1,92 @@
+#include "document/io/IconFileReader.h"
+
+#include <fstream>
+#include <vector>
+
+#include "document/io/IconReaderSteps.h"
+#include "document/io/PictureSignature.h"
+#include "services/core/TextCatalog.h"
+
+namespace iw {
+namespace {
+
+IconReadStatus LoadWholeFile(const std::string& path, const IconReadLimits& limits,
+                             std::vector<std::uint8_t>& bytes) {
+    std::ifstream in(path, std::ios::binary | std::ios::ate);
+    if (!in) return IconReadStatus::Unreadable;
+    const std::streamoff length = in.tellg();
+    if (length < 0) return IconReadStatus::Unreadable;
+    if (length == 0) return IconReadStatus::EmptyFile;
+    if (static_cast<std::uint64_t>(length) > limits.maxFileBytes) return IconReadStatus::TooLarge;
+    bytes.resize(static_cast<std::size_t>(length));
+    in.seekg(0);
+    if (!in.read(reinterpret_cast<char*>(bytes.data()), length)) {
+        return IconReadStatus::Unreadable;
+    }
+    return IconReadStatus::Ok;
+}
+
+void ResetForReading(IconSet& set, const std::string& path) {
+    set.Clear();
+    set.properties = {};
+    set.animation = {};
+    set.mode = FileModeFromPath(path);
+}
+
+void ReportFailure(IconReadStatus status, std::span<const std::uint8_t> file,
+                   const std::string& path, MessageService& messages) {
+    // A directory that yields no image is reported as corrupt without asking whether the
+    // file is an ordinary picture.
+    const bool renamedPicture = status != IconReadStatus::NoEntries && IsOrdinaryPicture(file);
+    const TextId& id = renamedPicture ? texts::RenamedPicture : texts::CorruptFile;
+    messages.ShowMessage(id.key, GetText(id) + "\n" + path, texts::kProgramTitle,
+                         MessageType::Exclamation, false);
+}
+
+}  // namespace
+
+IconReadResult ReadIconData(std::span<const std::uint8_t> file, const std::string& path,
+                            IconSet& set, IProgressSink& progress) {
+    ResetForReading(set, path);
+    IconReadResult result;
+    detail::EntryOffsets offsets;
+    if (UpperExtension3(path) == "ICO") {
+        result.status = detail::ReadDirectory(file, set, offsets);
+    } else {
+        progress.SetStatus(GetText(texts::GettingIconInformation));
+        result.status = detail::FindBitmapHeaders(file, set, offsets);
+    }
+    if (!result.Ok()) {
+        set.Clear();
+        progress.SetStatus("");
+        return result;
+    }
+    detail::DecodeImages(file, offsets, set, progress);
+    result.nonStandard16Converted = detail::ConvertNonStandard16Images(set);
+    if (set.mode == FileMode::CUR) detail::ReadCursorHotspot(file, set);
+    progress.SetStatus("");
+    return result;
+}
+
+bool ReadIconFile(const std::string& path, IconSet& set, CoreContext& context,
+                  const IconReadLimits& limits) {
+    std::vector<std::uint8_t> file;
+    IconReadResult result;
+    result.status = LoadWholeFile(path, limits, file);
+    if (result.Ok()) {
+        result = ReadIconData(file, path, set, context.progress);
+    } else {
+        ResetForReading(set, path);
+    }
+    if (!result.Ok()) {
+        set.Clear();
+        ReportFailure(result.status, file, path, context.messages);
+        return false;
+    }
+    if (result.nonStandard16Converted) {
+        context.messages.Show(texts::Bad16Icons, MessageType::Information);
+    }
+    return true;
+}
+
+}  // namespace iw
