@@ -15,7 +15,7 @@ namespace iw::test {
 
 // Records every message box and answers with a preset answer.
 class RecordingPresenter : public IMessagePresenter {
-public:
+  public:
     MessageBoxResult Present(const MessageBoxRequest& request) override {
         shown.push_back(request);
         return {answer, suppressNext};
@@ -26,7 +26,7 @@ public:
 };
 
 class RecordingProgress : public IProgressSink {
-public:
+  public:
     void SetStatus(std::string_view text) override { statuses.emplace_back(text); }
     void SetProgress(int done, int total) override { progress.emplace_back(done, total); }
     void Yield() override { ++yields; }
@@ -36,7 +36,7 @@ public:
 };
 
 class RecordingLog : public ILogSink {
-public:
+  public:
     void AddLogEntry(std::string_view tag) override { entries.emplace_back(tag); }
     std::vector<std::string> entries;
 };
@@ -58,7 +58,7 @@ void WriteFileBytes(const std::filesystem::path& file, const std::vector<std::ui
 
 // A fresh folder under the system's temporary folder, removed with everything in it.
 class TempDir {
-public:
+  public:
     TempDir();
     ~TempDir();
     TempDir(const TempDir&) = delete;
@@ -66,7 +66,7 @@ public:
     const std::filesystem::path& Path() const { return path_; }
     std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
 
-private:
+  private:
     std::filesystem::path path_;
 };
 
