@@ -27,7 +27,7 @@ inline std::uint32_t LoadBE32(const std::uint8_t* p) {
 }
 
 class ByteReader {
-public:
+  public:
     explicit ByteReader(std::span<const std::uint8_t> data) : data_(data) {}
 
     std::size_t Position() const { return pos_; }
@@ -76,7 +76,7 @@ public:
         return view;
     }
 
-private:
+  private:
     std::span<const std::uint8_t> data_;
     std::size_t pos_ = 0;
 };
