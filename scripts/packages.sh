@@ -1,0 +1,29 @@
+# Sourced by the scripts: installs the Debian packages the project needs, quietly and only
+# when some are missing. Safe to run again and again.
+
+IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev"
+IW_TEST_PACKAGES="googletest libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev
+  clang libclang-rt-dev python3 python3-pil imagemagick icoutils optipng"
+
+iw_missing_packages() {
+  local missing=""
+  for pkg in "$@"; do
+    if ! dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q "install ok installed"; then
+      missing="$missing $pkg"
+    fi
+  done
+  echo "$missing"
+}
+
+iw_ensure_packages() {
+  local missing
+  missing=$(iw_missing_packages "$@")
+  [ -z "$missing" ] && return 0
+  echo "Installing:$missing"
+  local sudo=""
+  [ "$(id -u)" -ne 0 ] && sudo="sudo"
+  export DEBIAN_FRONTEND=noninteractive
+  $sudo apt-get update -qq >/dev/null
+  # shellcheck disable=SC2086
+  $sudo apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
