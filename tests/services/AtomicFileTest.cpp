@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <csignal>
+
+#include "services/core/AtomicFile.h"
+#include "support/TestSupport.h"
+
+namespace iw {
+namespace {
+
+std::span<const std::byte> AsBytes(const std::string& s) {
+    return std::as_bytes(std::span(s.data(), s.size()));
+}
+
+std::size_t FilesIn(const std::filesystem::path& dir) {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(dir),
+                                                  std::filesystem::directory_iterator()));
+}
+
+TEST(AtomicFile, ReplacesTheWholeFileAndKeepsItsPermissions) {
+    test::TempDir dir;
+    auto target = dir / "a.ico";
+    test::WriteFileBytes(target, std::vector<std::uint8_t>(1000, 7));
+    std::filesystem::permissions(target, std::filesystem::perms::owner_read |
+                                             std::filesystem::perms::owner_write |
+                                             std::filesystem::perms::group_read);
+    ASSERT_TRUE(WriteFileAtomically(target, AsBytes("short")));
+    auto bytes = test::ReadFileBytes(target);
+    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), "short");  // no trailing bytes
+    EXPECT_EQ(std::filesystem::status(target).permissions() & std::filesystem::perms::all,
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write |
+                  std::filesystem::perms::group_read);
+    EXPECT_EQ(FilesIn(dir.Path()), 1u);
+}
+
+TEST(AtomicFile, DiscardedOrFailedWritesLeaveTheOldFile) {
+    test::TempDir dir;
+    auto target = dir / "keep.ico";
+    test::WriteFileBytes(target, {1, 2, 3});
+    {
+        AtomicFile file;
+        ASSERT_TRUE(file.Open(target));
+        file.Write(AsBytes("new content"));
+        // Not committed: dropped when it goes out of scope.
+    }
+    EXPECT_EQ(test::ReadFileBytes(target), (std::vector<std::uint8_t>{1, 2, 3}));
+    EXPECT_EQ(FilesIn(dir.Path()), 1u);
+}
+
+TEST(AtomicFile, ReadOnlyFolderFailsWithoutTouchingTheTarget) {
+    if (geteuid() == 0) GTEST_SKIP() << "root writes into read-only folders";
+    test::TempDir dir;
+    auto target = dir / "keep.ico";
+    test::WriteFileBytes(target, {1, 2, 3});
+    std::filesystem::permissions(
+        dir.Path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_FALSE(WriteFileAtomically(target, AsBytes("x")));
+    std::filesystem::permissions(dir.Path(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(test::ReadFileBytes(target), (std::vector<std::uint8_t>{1, 2, 3}));
+}
+
+TEST(AtomicFile, FileSizeLimitPartWayFailsAndLeavesTheOldFile) {
+    test::TempDir dir;
+    auto target = dir / "big.ico";
+    test::WriteFileBytes(target, std::vector<std::uint8_t>(100, 9));
+    rlimit saved{};
+    getrlimit(RLIMIT_FSIZE, &saved);
+    auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit small = saved;
+    small.rlim_cur = 64 * 1024;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const std::string big(1 << 20, 'z');
+    const bool ok = WriteFileAtomically(target, AsBytes(big));
+    setrlimit(RLIMIT_FSIZE, &saved);
+    std::signal(SIGXFSZ, previousHandler);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(test::ReadFileBytes(target), std::vector<std::uint8_t>(100, 9));
+    EXPECT_EQ(FilesIn(dir.Path()), 1u);
+}
+
+TEST(AtomicFile, MissingFolderFails) {
+    test::TempDir dir;
+    EXPECT_FALSE(WriteFileAtomically(dir / "no" / "such.ico", AsBytes("x")));
+}
+
+}  // namespace
+}  // namespace iw
