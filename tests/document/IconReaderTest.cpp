@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "IcoBuilder.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconReaderSteps.h"
 #include "imaging/StandardColors.h"
 #include "services/core/TextCatalog.h"
+#include "support/IcoBuilder.h"
 #include "support/TestSupport.h"
 
 namespace iw {

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "IcoBuilder.h"
 #include "document/io/IconFileReader.h"
+#include "support/IcoBuilder.h"
 #include "support/TestSupport.h"
 
 namespace iw {

@@ -1,4 +1,4 @@
-#include "IcoBuilder.h"
+#include "support/IcoBuilder.h"
 
 namespace iw::test {
 
