@@ -1,0 +1,91 @@
+// The entry points of Compression.h: the loaded zlib when there is one, else the own
+// inflate and deflate.
+
+#include "codec/Compression.h"
+
+#include "codec/Deflate.h"
+#include "codec/Inflate.h"
+#include "codec/ZlibLibrary.h"
+
+namespace iw {
+
+namespace {
+
+// Deflate cannot expand more than 1032:1 (a 258-byte match in two bits).
+std::size_t MostInflatedSize(std::size_t inputSize, std::size_t maxOutput) {
+    constexpr std::size_t kRatio = 1032;
+    if (inputSize > (maxOutput - 64) / kRatio) return maxOutput;  // maxOutput is the bound
+    const std::size_t bound = inputSize * kRatio + 64;
+    return bound < maxOutput ? bound : maxOutput;
+}
+
+}  // namespace
+
+const char* InflateStatusText(InflateStatus status) {
+    switch (status) {
+        case InflateStatus::Ok:
+            return "ok";
+        case InflateStatus::TruncatedInput:
+            return "the compressed data ends early";
+        case InflateStatus::BadHeader:
+            return "bad zlib header";
+        case InflateStatus::BadBlockType:
+            return "invalid block type";
+        case InflateStatus::BadStoredLength:
+            return "stored block length check failed";
+        case InflateStatus::BadCodeLengths:
+            return "invalid code lengths";
+        case InflateStatus::BadSymbol:
+            return "invalid literal/length or distance code";
+        case InflateStatus::DistanceTooFar:
+            return "distance too far back";
+        case InflateStatus::OutputLimit:
+            return "decompressed data larger than allowed";
+        case InflateStatus::BadChecksum:
+            return "Adler-32 check failed";
+        case InflateStatus::LibraryError:
+            return "the compression library failed";
+    }
+    return "unknown inflate status";
+}
+
+bool IsZlibLoaded() {
+    return ProgramZlib() != nullptr;
+}
+
+InflateStatus ZlibDecompress(std::span<const std::uint8_t> in, std::size_t maxOutput,
+                             std::vector<std::uint8_t>& out) {
+    const ZlibLibrary* zlib = ProgramZlib();
+    if (!zlib) return InflateZlib(in, maxOutput, out);
+
+    const std::size_t room = maxOutput < 64 ? maxOutput : MostInflatedSize(in.size(), maxOutput);
+    out.resize(room);
+    std::size_t produced = room;
+    const int result = zlib->Uncompress(out.data(), produced, in.data(), in.size());
+    if (result == ZlibLibrary::kOk) {
+        out.resize(produced);
+        return InflateStatus::Ok;
+    }
+    // zlib's codes are coarse; the own decoder names the fault precisely.
+    out.clear();
+    std::vector<std::uint8_t> partial;
+    const InflateStatus own = InflateZlib(in, maxOutput, partial);
+    if (own != InflateStatus::Ok) {
+        out = std::move(partial);
+        return own;
+    }
+    return InflateStatus::LibraryError;
+}
+
+std::vector<std::uint8_t> ZlibCompress(std::span<const std::uint8_t> in) {
+    const ZlibLibrary* zlib = ProgramZlib();
+    if (!zlib) return DeflateZlib(in);
+
+    std::vector<std::uint8_t> out(in.size() + in.size() / 8 + 64);
+    std::size_t produced = out.size();
+    if (zlib->Compress(out.data(), produced, in.data(), in.size()) != ZlibLibrary::kOk) return {};
+    out.resize(produced);
+    return out;
+}
+
+}  // namespace iw
