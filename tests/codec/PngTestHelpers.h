@@ -1,0 +1,66 @@
+#pragma once
+// Helpers for the PNG tests: streams built chunk by chunk, pixels out of a c32bppDIB as
+// RGBA, the PngSuite reference pixels and deterministic random images.
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "codec/c32bppDIB.h"
+
+namespace iw::test {
+
+// A PNG stream assembled chunk by chunk; CRCs are computed unless given.
+class PngBuilder {
+  public:
+    PngBuilder();  // the signature
+    PngBuilder& Chunk(const char type[5], const std::vector<std::uint8_t>& data);
+    PngBuilder& ChunkWithCrc(const char type[5], const std::vector<std::uint8_t>& data,
+                             std::uint32_t crc);
+    PngBuilder& Header(std::uint32_t width, std::uint32_t height, std::uint8_t depth,
+                       std::uint8_t colorType, std::uint8_t interlace = 0);
+    // IDAT chunks of at most `piece` bytes holding the zlib stream of `raw`.
+    PngBuilder& ImageData(const std::vector<std::uint8_t>& raw, std::size_t piece = 1u << 30);
+    PngBuilder& End();
+    const std::vector<std::uint8_t>& Bytes() const { return bytes_; }
+
+  private:
+    std::vector<std::uint8_t> bytes_;
+};
+
+std::vector<std::uint8_t> BE32(std::uint32_t value);
+
+// The DIB's pixels as R, G, B, A, top row first.
+std::vector<std::uint8_t> RgbaOf(const c32bppDIB& image);
+// A DIB from R, G, B, A pixels, top row first.
+c32bppDIB DibFromRgba(int width, int height, const std::vector<std::uint8_t>& rgba);
+
+// The numbers of a PngSuite reference file (a JSON array of integers).
+std::vector<int> ReadJsonNumbers(const std::filesystem::path& file);
+
+// Decodes a PNG in memory; nullopt on failure.
+std::optional<c32bppDIB> Decode(const std::vector<std::uint8_t>& png);
+
+// Random images of one kind, reproducible by seed.
+enum class ImageKind {
+    Grey,
+    GreyAlpha,
+    Palette2,
+    Palette4,
+    Palette16,
+    Palette256,
+    Rgb,
+    Rgba,
+    ColorKey
+};
+const char* KindName(ImageKind kind);
+std::vector<std::uint8_t> RandomImage(ImageKind kind, int width, int height, std::uint32_t seed);
+
+// Runs a shell command and returns its standard output; nullopt when it fails.
+std::optional<std::vector<std::uint8_t>> RunCapture(const std::string& command);
+
+}  // namespace iw::test
