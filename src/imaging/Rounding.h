@@ -17,4 +17,19 @@ inline int RoundHalfEven(double value) {
     return static_cast<int>(result);
 }
 
+// The same rule for the exact quotient numerator / denominator (denominator > 0), without
+// going through floating point: for callers whose factors are exact binary fractions
+// (sixteenths and the like), where both forms give the same integer.
+constexpr int RoundHalfEven(int numerator, int denominator) {
+    int quotient = numerator / denominator;
+    int remainder = numerator % denominator;
+    if (remainder < 0) {  // make the quotient the floor
+        remainder += denominator;
+        --quotient;
+    }
+    const int twice = 2 * remainder;
+    if (twice > denominator || (twice == denominator && (quotient & 1) != 0)) ++quotient;
+    return quotient;
+}
+
 }  // namespace iw

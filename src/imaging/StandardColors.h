@@ -11,11 +11,11 @@
 namespace iw {
 
 inline constexpr std::array<PackedColor, 16> kStandard16Colors = {
-    PackColor(0, 0, 0),       PackColor(128, 0, 0),   PackColor(0, 128, 0),
-    PackColor(128, 128, 0),   PackColor(0, 0, 128),   PackColor(128, 0, 128),
+    PackColor(0, 0, 0),       PackColor(128, 0, 0),     PackColor(0, 128, 0),
+    PackColor(128, 128, 0),   PackColor(0, 0, 128),     PackColor(128, 0, 128),
     PackColor(0, 128, 128),   PackColor(192, 192, 192), PackColor(128, 128, 128),
-    PackColor(255, 0, 0),     PackColor(0, 255, 0),   PackColor(255, 255, 0),
-    PackColor(0, 0, 255),     PackColor(255, 0, 255), PackColor(0, 255, 255),
+    PackColor(255, 0, 0),     PackColor(0, 255, 0),     PackColor(255, 255, 0),
+    PackColor(0, 0, 255),     PackColor(255, 0, 255),   PackColor(0, 255, 255),
     PackColor(255, 255, 255),
 };
 
@@ -31,6 +31,8 @@ constexpr int Standard16Index(PackedColor color) {
     return -1;
 }
 
-constexpr bool IsStandard16Color(PackedColor color) { return Standard16Index(color) >= 0; }
+constexpr bool IsStandard16Color(PackedColor color) {
+    return Standard16Index(color) >= 0;
+}
 
 }  // namespace iw
