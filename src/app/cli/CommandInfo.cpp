@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "Commands.h"
+#include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 
 namespace iw::cli {
@@ -15,7 +16,8 @@ constexpr std::string_view kHelp =
     "\n"
     "  --json   print one JSON object:\n"
     "           {\"file\", \"mode\", \"images\": [{\"index\", \"width\", \"height\", \"bpp\",\n"
-    "            \"png\", \"rate\"}], \"hotspot\": [x, y]}\n"
+    "            \"png\", \"rate\"}], \"hotspot\": [x, y], \"name\", \"artist\",\n"
+    "            \"sequence\": [frame indices, empty without a sequence]}\n"
     "\n"
     "Exit status: 0 read, 1 the file could not be read, 2 usage error.\n";
 
@@ -42,7 +44,14 @@ std::string AsJson(const std::string& path, const IconSet& set) {
             << ", \"png\": " << (info.png ? "true" : "false") << ", \"rate\": " << info.rate << "}";
     }
     out << "], \"hotspot\": [" << set.properties.hotspotX << ", " << set.properties.hotspotY
-        << "]}";
+        << "], \"name\": " << JsonString(set.properties.name)
+        << ", \"artist\": " << JsonString(set.properties.artist) << ", \"sequence\": [";
+    if (set.animation.sequenceInUse) {
+        const std::vector<int> frames = ParseSequence(set.properties.sequence);
+        for (std::size_t i = 0; i < frames.size(); ++i)
+            out << (i ? ", " : "") << frames[i];
+    }
+    out << "]}";
     return out.str();
 }
 
@@ -61,6 +70,9 @@ std::string AsText(const std::string& path, const IconSet& set) {
     if (set.mode != FileMode::ICO) {
         out << "Hotspot: " << set.properties.hotspotX << ", " << set.properties.hotspotY << "\n";
     }
+    if (!set.properties.name.empty()) out << "Name:    " << set.properties.name << "\n";
+    if (!set.properties.artist.empty()) out << "Artist:  " << set.properties.artist << "\n";
+    if (set.animation.sequenceInUse) out << "Sequence: " << set.properties.sequence << "\n";
     return out.str();
 }
 

@@ -11,7 +11,10 @@ constexpr const char* kUsage =
     "usage: iconwright-cli COMMAND [ARGS]\n"
     "\n"
     "commands:\n"
-    "  info [--json] FILE   list the images of an icon, cursor or animated cursor\n"
+    "  info [--json] FILE        list the images of an icon, cursor or animated cursor\n"
+    "  extract FILE DIR          write every image as DIR/<index>.png\n"
+    "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png)\n"
+    "  pack OUT IN.png[:BPP[:png]] ...   build an icon set from PNG pictures\n"
     "\n"
     "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
 
@@ -30,6 +33,9 @@ int main(int argc, char** argv) {
         return kExitOk;
     }
     if (command == "info") return RunInfo(args);
+    if (command == "extract") return RunExtract(args);
+    if (command == "convert") return RunConvert(args);
+    if (command == "pack") return RunPack(args);
     std::cerr << "iconwright-cli: unknown command '" << command << "'\n" << kUsage;
     return kExitUsage;
 }

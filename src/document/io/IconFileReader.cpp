@@ -3,6 +3,7 @@
 #include <fstream>
 #include <vector>
 
+#include "document/io/AnimatedCursor.h"
 #include "document/io/IconReaderSteps.h"
 #include "document/io/PictureSignature.h"
 #include "services/core/TextCatalog.h"
@@ -37,7 +38,9 @@ void ReportFailure(IconReadStatus status, std::span<const std::uint8_t> file,
                    const std::string& path, MessageService& messages) {
     // A directory that yields no image is reported as corrupt without asking whether the
     // file is an ordinary picture.
-    const bool renamedPicture = status != IconReadStatus::NoEntries && IsOrdinaryPicture(file);
+    const bool renamedPicture = status != IconReadStatus::NoEntries &&
+                                status != IconReadStatus::AnimationCorrupt &&
+                                IsOrdinaryPicture(file);
     const TextId& id = renamedPicture ? texts::RenamedPicture : texts::CorruptFile;
     messages.ShowMessage(id.key, GetText(id) + "\n" + path, texts::kProgramTitle,
                          MessageType::Exclamation, false);
@@ -63,6 +66,12 @@ IconReadResult ReadIconData(std::span<const std::uint8_t> file, const std::strin
     }
     detail::DecodeImages(file, offsets, set, progress);
     result.nonStandard16Converted = detail::ConvertNonStandard16Images(set);
+    if (set.mode == FileMode::ANI && !ReadAnimationChunks(file, set)) {
+        set.Clear();
+        progress.SetStatus("");
+        result.status = IconReadStatus::AnimationCorrupt;
+        return result;
+    }
     if (set.mode == FileMode::CUR) detail::ReadCursorHotspot(file, set);
     progress.SetStatus("");
     return result;

@@ -1,0 +1,171 @@
+#include "CliInput.h"
+
+#include <cstring>
+#include <fstream>
+#include <iostream>
+
+#include "document/io/AnimatedCursor.h"
+#include "document/io/IconFileReader.h"
+#include "document/io/IconFileWriter.h"
+#include "document/io/PictureImport.h"
+
+namespace iw::cli {
+namespace {
+
+bool ParseInt(const std::string& text, int low, int high, int& value) {
+    if (text.empty() || text.size() > 6) return false;
+    std::size_t used = 0;
+    try {
+        value = std::stoi(text, &used);
+    } catch (...) {
+        return false;
+    }
+    return used == text.size() && value >= low && value <= high;
+}
+
+std::string Lower(std::string text) {
+    for (char& c : text)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
+}
+
+}  // namespace
+
+bool StartsWithPngSignature(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    char head[8] = {};
+    return in.read(head, 8) && std::memcmp(head, "\x89PNG\r\n\x1a\n", 8) == 0;
+}
+
+bool LoadPicture(const std::string& path, c32bppDIB& picture) {
+    if (!picture.LoadPicture_File(path)) {
+        std::cerr << "iconwright-cli: " << path << ": not a PNG picture that can be read\n";
+        return false;
+    }
+    return true;
+}
+
+bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context) {
+    if (!StartsWithPngSignature(path)) return ReadIconFile(path, set, context.Core());
+    c32bppDIB picture;
+    if (!LoadPicture(path, picture)) return false;
+    set.Clear();
+    if (AddPictureImage(set, picture, 32, false) < 0) {
+        std::cerr << "iconwright-cli: " << path << ": the picture is " << picture.Width() << " x "
+                  << picture.Height() << "; icon images are at most 256 x 256\n";
+        return false;
+    }
+    return true;
+}
+
+bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
+                       std::string& error) {
+    const std::string& option = args[i];
+    if (i + 1 >= args.size()) {
+        error = option + " needs a value";
+        return false;
+    }
+    const std::string& value = args[++i];
+    if (option == "--index") {
+        if (!ParseInt(value, 0, IconSet::kMaxImages - 1, options.index)) {
+            error = "--index takes an image number";
+            return false;
+        }
+    } else if (option == "--hotspot") {
+        const auto comma = value.find(',');
+        int x = 0, y = 0;
+        if (comma == std::string::npos || !ParseInt(value.substr(0, comma), 0, 255, x) ||
+            !ParseInt(value.substr(comma + 1), 0, 255, y)) {
+            error = "--hotspot takes X,Y (0 to 255)";
+            return false;
+        }
+        options.hotspot = {x, y};
+    } else if (option == "--rate") {
+        int rate = 0;
+        if (!ParseInt(value, 0, 32767, rate)) {
+            error = "--rate takes jiffies from 0 to 32767";
+            return false;
+        }
+        options.rate = rate;
+    } else if (option == "--name") {
+        options.name = value;
+    } else if (option == "--artist") {
+        options.artist = value;
+    } else if (option == "--sequence") {
+        std::vector<int> frames;
+        std::size_t at = 0;
+        while (at <= value.size()) {
+            std::size_t comma = value.find(',', at);
+            if (comma == std::string::npos) comma = value.size();
+            int frame = 0;
+            const std::string item = value.substr(at, comma - at);
+            if (!item.empty()) {
+                if (!ParseInt(item, 0, IconSet::kMaxImages - 1, frame)) {
+                    error = "--sequence takes frame numbers separated by commas";
+                    return false;
+                }
+                frames.push_back(frame);
+            }
+            at = comma + 1;
+        }
+        options.sequence = frames;
+    } else {
+        error = "unknown option " + option;
+        return false;
+    }
+    ++i;
+    return true;
+}
+
+std::string OutputKind(const std::string& path) {
+    const std::string lower = Lower(path);
+    for (const char* ext : {".ico", ".cur", ".ani"}) {
+        if (lower.size() > 4 && lower.compare(lower.size() - 4, 4, ext) == 0) return ext;
+    }
+    return {};
+}
+
+bool WriteOutputSet(const std::string& path, IconSet& set, const OutputOptions& options,
+                    CliContext& context) {
+    const std::string kind = OutputKind(path);
+    if (options.hotspot) {
+        set.properties.hotspotX = static_cast<std::int16_t>(options.hotspot->first);
+        set.properties.hotspotY = static_cast<std::int16_t>(options.hotspot->second);
+    }
+    bool ok = false;
+    if (kind == ".ico") {
+        ok = WriteIconFile(path, set, context.Core());
+    } else if (kind == ".cur") {
+        if (options.index >= set.Count()) {
+            std::cerr << "iconwright-cli: --index " << options.index << ": the set has "
+                      << set.Count() << " images\n";
+            return false;
+        }
+        ok = WriteCursorFile(path, set, options.index, set.properties.hotspotX,
+                             set.properties.hotspotY, context.Core());
+    } else if (kind == ".ani") {
+        if (options.rate) {
+            for (int i = 0; i < set.Count(); ++i) {
+                set.Info(i).rate = static_cast<std::int16_t>(*options.rate);
+            }
+        }
+        if (options.name) set.properties.name = *options.name;
+        if (options.artist) set.properties.artist = *options.artist;
+        if (options.sequence) {
+            for (int frame : *options.sequence) {
+                if (frame >= set.Count()) {
+                    std::cerr << "iconwright-cli: --sequence names frame " << frame
+                              << "; the set has " << set.Count() << " frames\n";
+                    return false;
+                }
+            }
+            set.properties.sequence = FormatSequence(*options.sequence);
+            set.animation.sequenceInUse = !options.sequence->empty();
+        }
+        ok = WriteAnimatedCursor(path, set, context.Core());
+    }
+    if (!ok) std::cerr << "iconwright-cli: " << path << ": could not be written\n";
+    return ok;
+}
+
+}  // namespace iw::cli

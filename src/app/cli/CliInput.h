@@ -1,0 +1,45 @@
+#pragma once
+// Reading a command's input file, and writing its output by extension.
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "CliSupport.h"
+#include "codec/c32bppDIB.h"
+#include "document/model/IconSet.h"
+
+namespace iw::cli {
+
+bool StartsWithPngSignature(const std::string& path);
+
+// A PNG picture (any size) through our codec; prints the reason on failure.
+bool LoadPicture(const std::string& path, c32bppDIB& picture);
+
+// An icon, cursor or animated cursor, or a PNG picture as one 32-bit image.
+bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context);
+
+// The options that shape an output file.
+struct OutputOptions {
+    int index = 0;                               // .cur: which image
+    std::optional<std::pair<int, int>> hotspot;  // .cur/.ani
+    std::optional<int> rate;                     // .ani: jiffies for every frame
+    std::optional<std::string> name;             // .ani
+    std::optional<std::string> artist;           // .ani
+    std::optional<std::vector<int>> sequence;    // .ani
+};
+
+// Takes the option at args[i] (and its value); returns false with `error` set when the
+// option is unknown or its value is bad. Advances `i` past what it used.
+bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
+                       std::string& error);
+
+// ".ico", ".cur" or ".ani" by OUT's extension (any case); empty for anything else.
+std::string OutputKind(const std::string& path);
+
+// Applies the options to the set and writes it; prints the reason on failure.
+bool WriteOutputSet(const std::string& path, IconSet& set, const OutputOptions& options,
+                    CliContext& context);
+
+}  // namespace iw::cli
