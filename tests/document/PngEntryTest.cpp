@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include "document/io/IconFileReader.h"
+#include "document/io/IconFileWriter.h"
+#include "support/IcoBuilder.h"
+#include "support/TestSupport.h"
+
+namespace iw {
+namespace {
+
+struct Fixture {
+    test::MessageFixture messages;
+    NullProgress progress;
+    test::RecordingLog log;
+    CoreContext context{messages.service, progress, log};
+    test::TempDir dir;
+};
+
+void PaintGradient(IconImage& image) {
+    for (int y = 0; y < image.info.Height(); ++y) {
+        for (int x = 0; x < image.info.Width(); ++x) {
+            image.Color(x, y) = PackColor(x, y, (x * y) & 0xFF);
+            image.Alpha(x, y) = (x + y) & 0xFF;
+        }
+    }
+}
+
+TEST(PngEntries, RoundTripThroughWriterAndReader) {
+    Fixture f;
+    IconSet set;
+    set.AddIcon(255, 255, 32);
+    set.Info(0).png = 1;
+    PaintGradient(set.Image(0));
+    set.AddIcon(47, 32, 32);  // non-square PNG entries keep their own sides
+    set.Info(1).png = 1;
+    PaintGradient(set.Image(1));
+    auto path = (f.dir / "p.ico").string();
+    ASSERT_TRUE(WriteIconFile(path, set, f.context));
+    EXPECT_NE(std::find(f.log.entries.begin(), f.log.entries.end(), "I_AI"), f.log.entries.end());
+    test::Bytes b = test::ReadFileBytes(path);
+    EXPECT_EQ(b[6], 0);  // 256 written as 0
+    EXPECT_EQ(b[6 + 16 + 0], 33);
+    EXPECT_EQ(b[6 + 16 + 1], 48);
+
+    IconSet back;
+    ASSERT_TRUE(ReadIconFile(path, back, f.context));
+    ASSERT_EQ(back.Count(), 2);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(back.Info(i).png, 1);
+        EXPECT_EQ(back.Info(i).Width(), set.Info(i).Width());
+        EXPECT_EQ(back.Info(i).Height(), set.Info(i).Height());
+        for (int y = 0; y < set.Info(i).Height(); ++y) {
+            for (int x = 0; x < set.Info(i).Width(); ++x) {
+                ASSERT_EQ(back.Image(i).Color(x, y), set.Image(i).Color(x, y));
+                ASSERT_EQ(back.Image(i).Alpha(x, y), set.Image(i).Alpha(x, y));
+            }
+        }
+    }
+    // Unchanged images keep the bytes they were read from and are written from them.
+    EXPECT_FALSE(back.Image(0).originalPng.empty());
+    auto again = (f.dir / "again.ico").string();
+    ASSERT_TRUE(WriteIconFile(again, back, f.context));
+    EXPECT_EQ(test::ReadFileBytes(again), b);
+}
+
+TEST(PngEntries, BrokenStreamStaysBlankAndTheReadGoesOn) {
+    Fixture f;
+    IconSet set;
+    set.AddIcon(15, 15, 32);
+    set.Info(0).png = 1;
+    PaintGradient(set.Image(0));
+    set.AddIcon(15, 15, 24);
+    PaintGradient(set.Image(1));
+    auto path = f.dir / "broken.ico";
+    ASSERT_TRUE(WriteIconFile(path.string(), set, f.context));
+    test::Bytes b = test::ReadFileBytes(path);
+    const std::size_t pngAt = b[6 + 12] | (b[6 + 13] << 8);
+    b[pngAt + 20] ^= 0xFF;  // inside IHDR: its CRC no longer matches or its size is wrong
+    b[pngAt + 40] ^= 0xFF;
+    test::WriteFileBytes(path, b);
+    IconSet back;
+    ASSERT_TRUE(ReadIconFile(path.string(), back, f.context));
+    ASSERT_EQ(back.Count(), 2);
+    EXPECT_EQ(back.Info(0).png, 1);
+    EXPECT_TRUE(back.Image(0).originalPng.empty());
+    EXPECT_EQ(back.Image(1).Color(3, 4), set.Image(1).Color(3, 4));
+}
+
+}  // namespace
+}  // namespace iw
