@@ -209,8 +209,22 @@ void DoContrast(IconImage& image, int value, AdjustChannel channel) {
 // optAlpha moving the alpha away from the pixel's grey.
 void DoSat(IconImage& image, int value, AdjustChannel channel) {
     const auto& thirds = ThirdsTable();
+    // round(c + (c - y) x f) without floating point per pixel. With f held in single
+    // precision, (c - y) x f and c + (c - y) x f are exact in double, so the rounded
+    // result minus c depends only on c - y and on whether c is odd (a shift by 2 keeps
+    // where an exact half goes). One table per parity, indexed by c - y + 255.
     const auto factor = static_cast<double>(static_cast<float>(CentredValue(value) / 100.0));
-    auto saturate = [factor](int c, int grey) { return RoundHalfEven(c + (c - grey) * factor); };
+    std::array<std::array<int, 511>, 2> offset{};
+    for (int parity = 0; parity < 2; ++parity) {
+        for (int d = -255; d <= 255; ++d) {
+            offset[static_cast<std::size_t>(parity)][static_cast<std::size_t>(d + 255)] =
+                RoundHalfEven(parity + d * factor) - parity;
+        }
+    }
+    auto saturate = [&offset](int c, int grey) {
+        return c +
+               offset[static_cast<std::size_t>(c & 1)][static_cast<std::size_t>(c - grey + 255)];
+    };
     ForEachPixel(image, [&](Pixel& p) {
         const Pixel before = p;
         const int grey = thirds[static_cast<std::size_t>(p.red + p.green + p.blue)];

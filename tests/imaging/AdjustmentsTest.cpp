@@ -8,6 +8,7 @@
 #include "SyntheticImages.h"
 #include "imaging/Adjustments.h"
 #include "imaging/ColorAdjustments.h"
+#include "imaging/Rounding.h"
 #include "imaging/StandardColors.h"
 
 namespace iw {
@@ -135,6 +136,38 @@ TEST(DoSat, GoesToGreyAtZeroAndDoublesAtOneHundred) {
     image = RowImage({PackColor(100, 150, 200)});
     DoSat(image, 100, AdjustChannel::Red);
     EXPECT_EQ(image.Color(0, 0), PackColor(50, 150, 200));
+}
+
+TEST(DoSat, MatchesTheFormulaForEverySliderValue) {
+    // round(c + (c - y) x f), f = (value / 100 x 200 - 100) / 100 held in single precision,
+    // y = (r + g + b) / 3, clamped to 0..255; computed here pixel by pixel.
+    IconImage source;
+    test::ShapeImage(source, 64, 64, 32);
+    test::Lcg random(3);
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x) {
+            source.Color(x, y) = static_cast<PackedColor>(random.Next() & 0xFFFFFF);
+        }
+    }
+    for (int value = 0; value <= 100; ++value) {
+        IconImage image = source.Clone();
+        DoSat(image, value, AdjustChannel::All);
+        const float f = static_cast<float>((value / 100.0 * 200.0 - 100.0) / 100.0);
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x) {
+                const PackedColor c = source.Color(x, y);
+                const int grey = (RedOf(c) + GreenOf(c) + BlueOf(c)) / 3;
+                auto expect = [&](int channel) {
+                    const int v =
+                        RoundHalfEven(channel + (channel - grey) * static_cast<double>(f));
+                    return v < 0 ? 0 : (v > 255 ? 255 : v);
+                };
+                ASSERT_EQ(image.Color(x, y),
+                          PackColor(expect(RedOf(c)), expect(GreenOf(c)), expect(BlueOf(c))))
+                    << "value " << value << " at " << x << "," << y;
+            }
+        }
+    }
 }
 
 TEST(Adjustments, KeepSixteenColourAndMonochromeImagesInTheirPalettes) {
