@@ -1,0 +1,163 @@
+// Reading and writing whole icons in memory:
+//  - a 9-size icon (16 to 256 px, 32-bit, the 256 px image PNG-compressed), read, against
+//    the floor of decoding its PNG entry with libpng and copying its bitmaps;
+//  - a 175-image icon of bitmaps (16 to 64 px, 4 to 32 bits), read;
+//  - writing both, fresh and (for PNG entries) from the bytes they were read from.
+
+#include <benchmark/benchmark.h>
+#include <png.h>
+
+#include <cstring>
+
+#include "document/io/IconFileReader.h"
+#include "document/io/IconFileWriter.h"
+#include "support/TestSupport.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct Context {
+    iw::test::MessageFixture messages;
+    iw::NullProgress progress;
+    iw::NullLog log;
+    iw::CoreContext core{messages.service, progress, log};
+};
+
+void Paint(iw::IconImage& image, int seed) {
+    const int w = image.info.Width(), h = image.info.Height();
+    for (int y = 0; y < h; ++y) {
+        for (int x = 0; x < w; ++x) {
+            const int dx = 2 * x - w, dy = 2 * y - h;
+            const bool inside = dx * dx + dy * dy < w * h;
+            iw::PackedColor c = iw::PackColor((x * 255) / w, (y * 255) / h, (seed * 40) & 0xFF);
+            if (image.info.bitCount == 4) c = iw::PackColor(x * 8 / w * 128 % 256, 0, 128);
+            if (image.info.bitCount != 32 && !inside) c = iw::TransparentColor;
+            image.Color(x, y) = c;
+            image.Alpha(x, y) = inside ? 255 : (dx * dx + dy * dy < w * h * 5 / 4 ? 128 : 0);
+        }
+    }
+}
+
+iw::IconSet NineSizeSet() {
+    iw::IconSet set;
+    for (int side : {256, 128, 96, 64, 48, 40, 32, 24, 16}) {
+        const int i = set.AddIcon(side - 1, side - 1, 32);
+        set.Info(i).png = side == 256 ? 1 : 0;
+        Paint(set.Image(i), i);
+    }
+    return set;
+}
+
+iw::IconSet ManySet(bool png) {
+    iw::IconSet set;
+    const int sides[] = {16, 24, 32, 48, 64};
+    const int depths[] = {4, 8, 24, 32};
+    for (int i = 0; i < 175; ++i) {
+        const int side = sides[i % 5];
+        set.AddIcon(side - 1, side - 1, png ? 32 : depths[(i / 5) % 4]);
+        set.Info(i).png = png ? 1 : 0;
+        Paint(set.Image(i), i);
+    }
+    return set;
+}
+
+Bytes Encode(const iw::IconSet& set) {
+    iw::test::TempDir dir;
+    Context context;
+    auto path = dir / "icon.ico";
+    iw::WriteIconFile(path.string(), set, context.core);
+    return iw::test::ReadFileBytes(path);
+}
+
+const Bytes& NineSizeFile() {
+    static const Bytes file = Encode(NineSizeSet());
+    return file;
+}
+
+void Read(benchmark::State& state, const Bytes& file) {
+    iw::NullProgress progress;
+    for (auto _ : state) {
+        iw::IconSet set;
+        auto result = iw::ReadIconData(file, "icon.ico", set, progress);
+        benchmark::DoNotOptimize(result);
+    }
+}
+
+void BM_ReadNineSizeIcon(benchmark::State& state) {
+    Read(state, NineSizeFile());
+}
+BENCHMARK(BM_ReadNineSizeIcon)->Unit(benchmark::kMicrosecond);
+
+// The floor for the same work: libpng decodes the PNG entry and the bitmap entries are
+// only copied.
+void BM_LibpngPlusCopyNineSizeIcon(benchmark::State& state) {
+    const Bytes& file = NineSizeFile();
+    const std::size_t count = file[4] | (file[5] << 8);
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::uint8_t* entry = file.data() + 6 + 16 * i;
+            std::uint32_t size, offset;
+            std::memcpy(&size, entry + 8, 4);
+            std::memcpy(&offset, entry + 12, 4);
+            if (file[offset] == 40) {
+                Bytes copy(file.begin() + offset, file.begin() + offset + size);
+                benchmark::DoNotOptimize(copy.data());
+                continue;
+            }
+            png_image image{};
+            image.version = PNG_IMAGE_VERSION;
+            png_image_begin_read_from_memory(&image, file.data() + offset, size);
+            image.format = PNG_FORMAT_BGRA;
+            Bytes pixels(PNG_IMAGE_SIZE(image));
+            png_image_finish_read(&image, nullptr, pixels.data(), 0, nullptr);
+            benchmark::DoNotOptimize(pixels.data());
+        }
+    }
+}
+BENCHMARK(BM_LibpngPlusCopyNineSizeIcon)->Unit(benchmark::kMicrosecond);
+
+void BM_Read175BitmapIcon(benchmark::State& state) {
+    static const Bytes file = Encode(ManySet(false));
+    Read(state, file);
+}
+BENCHMARK(BM_Read175BitmapIcon)->Unit(benchmark::kMicrosecond);
+
+void Write(benchmark::State& state, const iw::IconSet& set) {
+    iw::test::TempDir dir;
+    Context context;
+    const std::string path = (dir / "out.ico").string();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(iw::WriteIconFile(path, set, context.core));
+}
+
+void BM_WriteNineSizeIconFresh(benchmark::State& state) {
+    static const iw::IconSet set = NineSizeSet();
+    Write(state, set);
+}
+BENCHMARK(BM_WriteNineSizeIconFresh)->Unit(benchmark::kMillisecond);
+
+void BM_WriteNineSizeIconAsRead(benchmark::State& state) {
+    iw::IconSet set;
+    iw::NullProgress progress;
+    iw::ReadIconData(NineSizeFile(), "icon.ico", set, progress);
+    Write(state, set);
+}
+BENCHMARK(BM_WriteNineSizeIconAsRead)->Unit(benchmark::kMillisecond);
+
+void BM_Write175BitmapIcon(benchmark::State& state) {
+    static const iw::IconSet set = ManySet(false);
+    Write(state, set);
+}
+BENCHMARK(BM_Write175BitmapIcon)->Unit(benchmark::kMillisecond);
+
+void BM_Write175PngIconAsRead(benchmark::State& state) {
+    static const Bytes file = Encode(ManySet(true));
+    iw::IconSet set;
+    iw::NullProgress progress;
+    iw::ReadIconData(file, "icon.ico", set, progress);
+    Write(state, set);
+}
+BENCHMARK(BM_Write175PngIconAsRead)->Unit(benchmark::kMillisecond);
+
+}  // namespace
