@@ -64,7 +64,7 @@ class PngProperties {
     bool Empty() const;
 
   private:
-    static constexpr int kSlots = 13;  // bits 0 .. 12
+    static constexpr int kSlots = 14;  // bits 0 .. 13
     static int SlotOf(int id);
     std::array<std::string, kSlots> values_{};
     std::optional<PngTime> time_;
