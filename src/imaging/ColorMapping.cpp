@@ -1,5 +1,8 @@
 #include "imaging/ColorMapping.h"
 
+#include <array>
+#include <cstdint>
+
 #include "imaging/Rounding.h"
 
 namespace iw {
@@ -15,23 +18,9 @@ bool InSilverBand(int channel) {
     return channel >= 129 && channel <= 223;
 }
 
-}  // namespace
-
-PackedColor ConvertTo16Color(PackedColor color) {
-    if (IsMarker(color)) return color;
-    const int red = ChannelRed(color);
-    const int green = ChannelGreen(color);
-    const int blue = ChannelBlue(color);
-
-    // Pale, unsaturated colours are silver whatever their levels say.
-    if (InSilverBand(red) && InSilverBand(green) && InSilverBand(blue)) {
-        return PackColor(192, 192, 192);
-    }
-
-    int r = Quantize16Channel(red);
-    int g = Quantize16Channel(green);
-    int b = Quantize16Channel(blue);
-
+// The mapping once the silver rule is out of the way: it depends only on the three
+// channel levels.
+PackedColor MapLevels(int r, int g, int b) {
     // One channel at each of 0, 128 and 255: the two lit channels are merged. Each test
     // sees the values the one before it left. The mean of 128 and 255 is 191.5, which
     // rounds to 192, so the merged pair always ends at 255.
@@ -64,6 +53,53 @@ PackedColor ConvertTo16Color(PackedColor color) {
     if (g == 128 && b == 255 && r == 128) b = 128;
 
     return PackColor(r, g, b);
+}
+
+// Every pixel of a 4-bit image goes through the mapping after each change, so the 27
+// level combinations are worked out once.
+struct LevelTables {
+    std::array<std::uint8_t, 256> levelOf{};  // 0, 1, 2 for 0, 128, 255
+    std::array<PackedColor, 27> mapped{};
+    LevelTables() {
+        const int levels[3] = {0, 128, 255};
+        for (int c = 0; c < 256; ++c) {
+            const int q = Quantize16Channel(c);
+            levelOf[static_cast<std::size_t>(c)] = static_cast<std::uint8_t>(q == 0     ? 0
+                                                                             : q == 128 ? 1
+                                                                                        : 2);
+        }
+        for (int r = 0; r < 3; ++r) {
+            for (int g = 0; g < 3; ++g) {
+                for (int b = 0; b < 3; ++b) {
+                    mapped[static_cast<std::size_t>(r * 9 + g * 3 + b)] =
+                        MapLevels(levels[r], levels[g], levels[b]);
+                }
+            }
+        }
+    }
+};
+
+const LevelTables& Tables() {
+    static const LevelTables tables;
+    return tables;
+}
+
+}  // namespace
+
+PackedColor ConvertTo16Color(PackedColor color) {
+    if (IsMarker(color)) return color;
+    const int red = ChannelRed(color);
+    const int green = ChannelGreen(color);
+    const int blue = ChannelBlue(color);
+
+    // Pale, unsaturated colours are silver whatever their levels say.
+    if (InSilverBand(red) && InSilverBand(green) && InSilverBand(blue)) {
+        return PackColor(192, 192, 192);
+    }
+    const LevelTables& t = Tables();
+    return t.mapped[static_cast<std::size_t>(t.levelOf[static_cast<std::size_t>(red)] * 9 +
+                                             t.levelOf[static_cast<std::size_t>(green)] * 3 +
+                                             t.levelOf[static_cast<std::size_t>(blue)])];
 }
 
 PackedColor ConvertToMonoColor(PackedColor color) {
