@@ -1,0 +1,21 @@
+#pragma once
+// Where the program's own data and the user's templates live.
+
+#include <filesystem>
+
+namespace iw {
+
+// The folder of the running executable; empty when it cannot be found.
+std::filesystem::path ExecutableFolder();
+
+// The program's read-only templates: "Templates" beside the executable (a build tree), else
+// the installed data folder "share/iconwright/Templates" next to the executable's "bin".
+// When neither exists, the installed path is returned (and the loader reports it missing).
+std::filesystem::path ProgramTemplatesFolder(const std::filesystem::path& executableFolder);
+
+// The user's templates: "Templates" in the per-user data folder (see DataFolder.h).
+std::filesystem::path UserTemplatesFolder();
+// The same, created with its parents when missing; empty when it cannot be made.
+std::filesystem::path EnsureUserTemplatesFolder();
+
+}  // namespace iw

@@ -1,0 +1,79 @@
+#pragma once
+// The template editor's logic: the list of formats being edited with its selected row, and
+// the operations of the editor window as functions. The window shows Rows() and forwards
+// its buttons here.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/core/MessageService.h"
+#include "services/desktop/Template.h"
+
+namespace iw {
+
+// One row of the editor's list as the window shows it.
+struct TemplateRowText {
+    std::string size;        // "16 x 16"
+    std::string depth;       // "Alpha"
+    std::string compressed;  // "No" or "Yes"
+};
+
+class TemplateEditor {
+  public:
+    static constexpr std::string_view kNewName = "NEW";
+
+    // Starts a new template under the working name "NEW" with no entries.
+    void NewTemplate();
+    // Reads a template into the list. A locked template cannot be edited: "This template
+    // cannot be edited." is shown and false returned, leaving the editor as it was.
+    bool OpenTemplates(const IconTemplate& source, MessageService& messages);
+    // Writes the list to the template's file, one line per entry, first to last.
+    bool SaveTemplates();
+    // Saves under a new name, "<name>.ini" in `userFolder`, and keeps editing that file. A
+    // name that is empty, holds a path separator or a character that file names cannot
+    // hold on Windows is refused.
+    bool SaveTemplatesAs(std::string_view name, const std::filesystem::path& userFolder);
+
+    // Adds a format after the last row and selects it. Refused (false) when the list holds
+    // 65 entries, or a side is outside 1..256, or the depth is not 1, 4, 8, 24 or 32.
+    bool AddItem(int width, int height, int bits, bool compressed);
+    // Removes the selected row; the row that follows it (or the new last row) is selected.
+    bool RemoveItem();
+    // Moves the selected row one place up or down, keeping it selected.
+    bool MoveUp();
+    bool MoveDown();
+    // Selects a row (-1 or a row outside the list selects none).
+    void SelectRow(int row);
+    void UnselectRows();
+    int SelectedRow() const { return selected_; }
+
+    // The first row to show so that the selected one is visible in a list of `visibleRows`
+    // rows, given the first row shown now.
+    int UpdateScrollBar(int firstShown, int visibleRows) const;
+    // The caption of the size label for the selected row ("16 x 16"), "" with none.
+    std::string UpdateLabel() const;
+    // The choices of the depth and compressed lists, in the order of the depth indexes.
+    static std::vector<std::string> AddColorList();
+    static std::vector<std::string> AddCompressedList();
+    // Width and height boxes take whole numbers only.
+    static bool IsInteger(std::string_view text);
+
+    static std::string DepthName(int bits);
+    std::vector<TemplateRowText> Rows() const;
+
+    const std::string& Name() const { return name_; }
+    const std::string& Path() const { return path_; }
+    const std::vector<TemplateEntry>& Entries() const { return entries_; }
+    bool Modified() const { return modified_; }
+
+  private:
+    std::string name_ = std::string(kNewName);
+    std::string path_;
+    std::vector<TemplateEntry> entries_;
+    int selected_ = -1;
+    bool modified_ = false;
+};
+
+}  // namespace iw
