@@ -1,0 +1,292 @@
+// Start-up, the command line, ask-to-save with its three answers, save as, and the
+// document flags.
+#include <gtest/gtest.h>
+
+#include "EditorFakes.h"
+#include "editor/RecentFiles.h"
+
+namespace iw {
+namespace {
+
+using test::EditorFixture;
+
+struct Lifecycle : ::testing::Test {
+    EditorFixture f;
+    Editor& editor = f.editor;
+
+    void Start(std::string_view commandLine = "") { editor.RunStartup(commandLine, f.folders); }
+    // Draws one pixel as the canvas would: a pencil press and release.
+    void Draw(Point at) {
+        editor.State().CurrentTool = "Pencil";
+        editor.PointerPress(at, MouseButton::Left);
+        editor.PointerRelease(at);
+    }
+};
+
+TEST_F(Lifecycle, StartupMakesAnUntitledBlankSetAndWritesExitOK) {
+    const StartupResult result = editor.RunStartup("", f.folders);
+    EXPECT_TRUE(result.showStartupDialog);
+    EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
+    ASSERT_EQ(editor.Set().Count(), 1);
+    EXPECT_EQ(editor.Set().Info(0).Width(), 32);
+    EXPECT_EQ(editor.Set().Info(0).bitCount, 32);
+    EXPECT_EQ(editor.SettingsStore().GetValue("Settings\\ExitOK", ""), "False");
+    EXPECT_EQ(f.view.splashes, 1);
+    EXPECT_EQ(f.view.restoredMaximised, true);
+    EXPECT_EQ(f.view.useFont, false);
+    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_FALSE(editor.HasFileName());
+    EXPECT_EQ(editor.Language(), "English");
+    // The program's templates load, locked.
+    const IconTemplate* classic = editor.Templates().Find("Windows Classic");
+    ASSERT_NE(classic, nullptr);
+    EXPECT_TRUE(classic->Locked());
+    EXPECT_EQ(editor.RequiredFormats().size(), 5u);
+}
+
+TEST_F(Lifecycle, StartupReadsItsSettingsFromTheDataFolder) {
+    {
+        XmlStore store;
+        store.SetFilePath(f.folders.dataFolder / "settings.xml");
+        store.SetValue("Settings\\Splash", "0");
+        store.SetValue("Settings\\State", "0");
+        store.SetValue("Settings\\Width", "9000");
+        store.SetValue("Settings\\Startup", "2");
+        store.SetValue("Settings\\BlankIcon", "1");
+        store.SetValue("Settings\\ExitOK", "False");
+        store.SetValue("Settings\\UseFont", "True");
+        ASSERT_TRUE(store.Save());
+    }
+    const StartupResult result = editor.RunStartup("", f.folders);
+    EXPECT_EQ(f.view.splashes, 0);
+    EXPECT_EQ(f.view.restoredMaximised, false);
+    EXPECT_EQ(f.view.restoredWidth, 9000);
+    EXPECT_EQ(f.view.restoredHeight, 8000);
+    EXPECT_EQ(f.view.useFont, true);
+    EXPECT_FALSE(result.previousRunEndedCleanly);
+    EXPECT_FALSE(result.showStartupDialog);
+    EXPECT_EQ(editor.Set().Info(0).Width(), 16);  // blank icon kind 1
+}
+
+TEST_F(Lifecycle, StartupOpensTheMostRecentFileOnlyWhenItExists) {
+    const std::string path = f.PathFor("recent.ico");
+    f.documents.Put(path, test::SolidSet(16, 32, PackColor(1, 2, 3)));
+    {
+        XmlStore store;
+        store.SetFilePath(f.folders.dataFolder / "settings.xml");
+        store.SetValue("Settings\\Startup", "1");
+        store.SetValue("Settings\\RecentFile1", path);
+        store.Save();
+    }
+    EXPECT_FALSE(editor.RunStartup("", f.folders).showStartupDialog);
+    EXPECT_EQ(editor.FileName(), path);
+    EXPECT_EQ(f.view.caption, "recent.ico - Quorvale Iconwright");
+}
+
+TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
+    const std::string path = f.PathFor("given.ico");
+    f.documents.Put(path, test::SolidSet(16, 32, PackColor(1, 2, 3)));
+    const StartupResult result = editor.RunStartup("  \"" + path + "\" /log ", f.folders);
+    EXPECT_TRUE(result.logRequested);
+    EXPECT_TRUE(f.view.logShown);
+    EXPECT_FALSE(result.showStartupDialog);
+    EXPECT_EQ(editor.FileName(), path);
+    EXPECT_EQ(RecentFile(editor.SettingsStore(), 1), path);
+
+    f.presenter.shown.clear();
+    EXPECT_FALSE(editor.HandleCommandLine("/nowhere/x.ico"));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].text,
+              "This file cannot be found or the command is invalid.\n/nowhere/x.ico");
+    EXPECT_EQ(editor.FileName(), path);  // the window keeps what it had
+}
+
+TEST_F(Lifecycle, AnEditRequestShowsTheRequestingProgram) {
+    Start();
+    const std::string icon = f.PathFor("for-app.ico");
+    f.documents.Put(icon, test::SolidSet(32, 32, PackColor(9, 9, 9)));
+    XmlStore request;
+    request.SetFilePath(f.temp / "request.XML");
+    request.SetValue("Request\\Program", "Some Program");
+    request.SetValue("Request\\File", icon);
+    ASSERT_TRUE(request.Save());
+    EXPECT_TRUE(editor.HandleCommandLine((f.temp / "request.XML").string()));
+    EXPECT_EQ(f.view.editRequestText, "You are editing an icon for Some Program");
+    EXPECT_EQ(editor.FileName(), icon);
+}
+
+TEST_F(Lifecycle, AskToSaveAnswersNoWithoutAskingWhenUnchanged) {
+    Start();
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
+    EXPECT_TRUE(f.presenter.shown.empty());
+}
+
+TEST_F(Lifecycle, AskToSaveNamesTheFileOrUntitled) {
+    Start();
+    Draw({1, 1});
+    EXPECT_FALSE(editor.Unmodified());
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].key, "SaveUntitled");
+    EXPECT_EQ(f.presenter.shown[0].text, "Save changes to untitled?");
+    EXPECT_EQ(f.presenter.shown[0].buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(f.presenter.shown[0].type, MessageType::Exclamation);
+
+    const std::string path = f.PathFor("named.ico");
+    f.view.savePath = path;
+    ASSERT_TRUE(editor.Save());
+    Draw({2, 2});
+    editor.AskToSave();
+    EXPECT_EQ(f.presenter.shown.back().key, "SaveFilename");
+    EXPECT_EQ(f.presenter.shown.back().text, "Save changes to " + path + "?");
+}
+
+TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
+    Start();
+    Draw({1, 1});
+    f.presenter.answer = MessageAnswer::Cancel;
+    EXPECT_FALSE(editor.NewDocument());
+    EXPECT_EQ(editor.LastAnswer(), MessageAnswer::Cancel);
+    EXPECT_EQ(editor.CurrentImage().Color(1, 1), editor.State().ForeColor);
+    EXPECT_FALSE(editor.QueryClose());
+
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_TRUE(editor.NewDocument());
+    EXPECT_EQ(editor.CurrentImage().Color(1, 1), TransparentColor);
+    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_TRUE(f.documents.writes.empty());
+}
+
+TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {
+    Start();
+    Draw({1, 1});
+    f.presenter.answer = MessageAnswer::Yes;
+    f.view.savePath.reset();  // the Save As dialog is cancelled
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);
+    EXPECT_EQ(f.view.savePathRequests, 1);
+
+    f.view.savePath = f.PathFor("saved.ico");
+    f.documents.failWrites = true;
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);
+    EXPECT_FALSE(editor.Unmodified());
+
+    f.documents.failWrites = false;
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Yes);
+    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_TRUE(editor.HasFileName());
+    EXPECT_EQ(f.documents.files.count(f.PathFor("saved.ico")), 1u);
+}
+
+TEST_F(Lifecycle, SaveAsAsksBeforeOverwritingAndOnlyYesGoesOn) {
+    Start();
+    const std::string path = f.PathFor("exists.ico");
+    f.documents.Put(path, test::SolidSet(16, 32, 0));
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(editor.SaveAs(path));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].key, "OverwriteFile");
+    EXPECT_EQ(f.presenter.shown[0].text, "The file " + path + " already exists.  OK to overwrite?");
+    EXPECT_TRUE(f.documents.writes.empty());
+    f.presenter.answer = MessageAnswer::Yes;
+    EXPECT_TRUE(editor.SaveAs(path));
+    EXPECT_EQ(f.documents.writes.size(), 1u);
+    EXPECT_EQ(editor.FileName(), path);
+}
+
+TEST_F(Lifecycle, UndoBackToTheSavedStateClearsTheModifiedFlag) {
+    Start();
+    f.view.savePath = f.PathFor("flag.ico");
+    Draw({1, 1});
+    ASSERT_TRUE(editor.Save());
+    EXPECT_TRUE(editor.Unmodified());
+    Draw({2, 2});
+    EXPECT_FALSE(editor.Unmodified());
+    editor.Undo();
+    EXPECT_TRUE(editor.Unmodified());
+    editor.Undo();
+    EXPECT_FALSE(editor.Unmodified());
+    editor.Repeat();
+    EXPECT_TRUE(editor.Unmodified());
+    editor.MarkModified();
+    EXPECT_FALSE(editor.Unmodified());
+}
+
+TEST_F(Lifecycle, OpeningAMissingOrUnreadableFile) {
+    Start();
+    EXPECT_FALSE(editor.OpenDocument(f.PathFor("absent.ico")));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].text, "This file could not be found.");
+
+    const std::string junk = f.PathFor("junk.ico");
+    std::ofstream(junk) << "not an icon";
+    EXPECT_FALSE(editor.OpenDocument(junk));  // the fake store knows nothing of it
+    EXPECT_EQ(editor.Set().Count(), 1);
+    EXPECT_FALSE(editor.HasFileName());
+    EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
+}
+
+TEST_F(Lifecycle, OpeningSwitchesToTheFilesModeAndResetsUndo) {
+    Start();
+    Draw({1, 1});
+    const std::string cursor = f.PathFor("arrow.cur");
+    f.documents.Put(cursor, test::SolidSet(32, 32, 0));
+    f.presenter.answer = MessageAnswer::No;
+    ASSERT_TRUE(editor.OpenDocument(cursor));
+    EXPECT_EQ(editor.Set().mode, FileMode::CUR);
+    EXPECT_EQ(editor.ModeMenuCaption(), "&Cursor");
+    EXPECT_FALSE(editor.UndoEnabled());
+    EXPECT_FALSE(editor.RepeatEnabled());
+}
+
+TEST_F(Lifecycle, NewCursorAndAnimatedCursorShowTheirHints) {
+    Start();
+    ASSERT_TRUE(editor.NewCursor());
+    EXPECT_EQ(editor.Set().mode, FileMode::CUR);
+    EXPECT_EQ(f.presenter.shown.back().key, "CreateCursor");
+    EXPECT_EQ(f.presenter.shown.back().title, "Quorvale Iconwright");
+    ASSERT_TRUE(editor.NewAnimatedCursor());
+    EXPECT_EQ(editor.Set().mode, FileMode::ANI);
+    EXPECT_EQ(f.presenter.shown.back().key, "CreateANI");
+    EXPECT_EQ(editor.Set().Count(), 1);
+}
+
+TEST_F(Lifecycle, NewFromTemplateMakesEveryFormatAndChecksAgainstIt) {
+    Start();
+    const IconTemplate* classic = editor.Templates().Find("Windows Classic");
+    ASSERT_NE(classic, nullptr);
+    ASSERT_TRUE(editor.NewFromTemplate(*classic));
+    ASSERT_EQ(editor.Set().Count(), 9);
+    EXPECT_EQ(editor.Set().Info(0).Width(), 48);
+    EXPECT_EQ(editor.Set().Info(2).bitCount, 4);
+    EXPECT_EQ(editor.InspectorView().state, InspectorState::AllBlank);
+    const IconTemplate* app = editor.Templates().Find("Windows Application");
+    ASSERT_NE(app, nullptr);
+    ASSERT_TRUE(editor.NewFromTemplate(*app));
+    EXPECT_EQ(editor.Set().Info(0).png, 1);
+}
+
+TEST_F(Lifecycle, SwitchingImagesResetsUndo) {
+    Start();
+    editor.Set().AddIcon(15, 15, 32);
+    Draw({1, 1});
+    EXPECT_TRUE(editor.UndoEnabled());
+    editor.SelectImage(1);
+    EXPECT_FALSE(editor.UndoEnabled());
+    EXPECT_EQ(editor.CurrentImage().info.Width(), 16);
+}
+
+TEST_F(Lifecycle, ShutdownWritesTheStores) {
+    Start();
+    editor.State().PixelSize = 7;
+    editor.State().FitInWindow = false;
+    editor.Shutdown();
+    XmlStore written;
+    written.Load(f.folders.dataFolder / "settings.xml");
+    EXPECT_EQ(written.GetValue("Settings\\Pixelsize", ""), "7");
+    EXPECT_EQ(written.GetValue("Settings\\ExitOK", ""), "True");
+    EXPECT_TRUE(std::filesystem::exists(f.folders.dataFolder / "messages.xml"));
+}
+
+}  // namespace
+}  // namespace iw

@@ -1,0 +1,148 @@
+#pragma once
+// Stand-ins for what the editor reaches through its interfaces: the document store (sets
+// kept in memory, with a file on disk so existence checks see it), the main window, and a
+// random source with a known sequence.
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "document/model/IconSet.h"
+#include "editor/Airbrush.h"
+#include "editor/DocumentStore.h"
+#include "editor/Editor.h"
+#include "editor/MainWindowView.h"
+#include "support/TestSupport.h"
+
+namespace iw::test {
+
+inline IconSet CopySet(const IconSet& from) {
+    IconSet to;
+    for (int i = 0; i < from.Count(); ++i)
+        to.InsertIcon(to.Count(), from.Image(i).Clone());
+    to.mode = from.mode;
+    to.properties = from.properties;
+    to.animation = from.animation;
+    return to;
+}
+
+class FakeDocumentStore : public IDocumentStore {
+  public:
+    bool Read(const std::string& path, IconSet& set) override {
+        reads.push_back(path);
+        auto it = files.find(path);
+        if (it == files.end()) return false;
+        set = CopySet(it->second);
+        set.mode = FileModeFromPath(path);
+        return true;
+    }
+    bool Write(const std::string& path, const IconSet& set, FileMode mode) override {
+        writes.push_back(path);
+        if (failWrites) return false;
+        files[path] = CopySet(set);
+        files[path].mode = mode;
+        std::ofstream(path) << "icon";
+        return true;
+    }
+    // Puts a set "on disk" at `path`.
+    void Put(const std::string& path, const IconSet& set) {
+        files[path] = CopySet(set);
+        std::ofstream(path) << "icon";
+    }
+    std::map<std::string, IconSet> files;
+    std::vector<std::string> reads;
+    std::vector<std::string> writes;
+    bool failWrites = false;
+};
+
+class FakeView : public IMainWindowView {
+  public:
+    void SetCaption(const std::string& text) override { caption = text; }
+    void ApplyUseFont(bool use) override { useFont = use; }
+    void ShowSplash() override { ++splashes; }
+    void RestoreWindow(const WindowSettings& window) override {
+        restoredMaximised = window.Maximised();
+        restoredWidth = window.widthTwips;
+        restoredHeight = window.heightTwips;
+    }
+    void ShowLogList() override { logShown = true; }
+    void ShowEditRequest(const std::string& text) override { editRequestText = text; }
+    std::optional<std::string> ChooseSavePath(FileMode, const std::string&) override {
+        ++savePathRequests;
+        return savePath;
+    }
+    std::string caption;
+    std::optional<bool> useFont;
+    int splashes = 0;
+    std::optional<bool> restoredMaximised;
+    int restoredWidth = 0;
+    int restoredHeight = 0;
+    bool logShown = false;
+    std::string editRequestText;
+    std::optional<std::string> savePath;
+    int savePathRequests = 0;
+};
+
+// Hands out a fixed sequence of numbers, again from the start at every reseed.
+class ScriptedRandom : public IRandomSource {
+  public:
+    explicit ScriptedRandom(std::vector<double> values) : values_(std::move(values)) {}
+    void Reseed() override {
+        next_ = 0;
+        ++reseeds;
+    }
+    double NextUnit() override {
+        const double v = values_[next_ % values_.size()];
+        ++next_;
+        return v;
+    }
+    int reseeds = 0;
+
+  private:
+    std::vector<double> values_;
+    std::size_t next_ = 0;
+};
+
+// An Editor over fakes, with XDG_DATA_HOME pointed at a temporary folder so that no test
+// touches the real home folder.
+struct EditorFixture {
+    EditorFixture() {
+        setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
+        folders.dataFolder = temp / "data";
+        std::filesystem::create_directories(folders.dataFolder);
+        folders.programTemplates = TestDataPath("../../data/Templates");
+        folders.userTemplates = temp / "data" / "Templates";
+        std::filesystem::create_directories(folders.userTemplates);
+    }
+    std::string PathFor(const std::string& name) const { return (temp / name).string(); }
+
+    TempDir temp;
+    StartupFolders folders;
+    RecordingPresenter presenter;
+    RecordingProgress progress;
+    RecordingLog log;
+    FakeDocumentStore documents;
+    FakeView view;
+    ScriptedRandom random{{0.5}};
+    Editor editor{EditorServices{presenter, progress, log, documents, view, random}};
+};
+
+// A set of one image of the given size and depth, every pixel `color` (alpha 255).
+inline IconSet SolidSet(int side, int bits, PackedColor color) {
+    IconSet set;
+    const int index = set.AddIcon(side - 1, side - 1, bits);
+    for (int x = 0; x < side; ++x) {
+        for (int y = 0; y < side; ++y) {
+            set.Image(index).Color(x, y) = color;
+            set.Image(index).Alpha(x, y) = 255;
+        }
+    }
+    return set;
+}
+
+}  // namespace iw::test

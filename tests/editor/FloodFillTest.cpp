@@ -1,0 +1,97 @@
+// The Fill tool: which pixels join the region, and painting it.
+#include <gtest/gtest.h>
+
+#include "editor/FloodFill.h"
+
+namespace iw {
+namespace {
+
+IconImage Filled(int width, int height, int bits, PackedColor color, int alpha) {
+    IconImage image;
+    image.info.widthMinus1 = static_cast<std::int16_t>(width - 1);
+    image.info.heightMinus1 = static_cast<std::int16_t>(height - 1);
+    image.info.bitCount = static_cast<std::int16_t>(bits);
+    for (int x = 0; x < width; ++x) {
+        for (int y = 0; y < height; ++y) {
+            image.Color(x, y) = color;
+            image.Alpha(x, y) = alpha;
+        }
+    }
+    return image;
+}
+
+constexpr PackedColor kRed = PackColor(255, 0, 0);
+constexpr PackedColor kBlue = PackColor(0, 0, 255);
+
+TEST(FloodFill, FillsTheWholeUniformImageButNothingBeyondIt) {
+    IconImage image = Filled(20, 12, 32, kRed, 255);
+    EXPECT_EQ(FloodFill(image, 5, 5, kBlue, 128), 20 * 12);
+    EXPECT_EQ(image.Color(19, 11), kBlue);
+    EXPECT_EQ(image.Alpha(19, 11), 128);
+    EXPECT_EQ(image.Color(20, 0), 0);  // store cells beyond the image stay untouched
+    EXPECT_EQ(image.Color(0, 12), 0);
+}
+
+TEST(FloodFill, DoesNotCrossIntoTheSameColourWithAnotherAlpha) {
+    IconImage image = Filled(10, 10, 32, kRed, 255);
+    for (int y = 0; y < 10; ++y)
+        image.Alpha(5, y) = 254;  // a wall of the same colour, one step less opaque
+    EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 255), 50);
+    EXPECT_EQ(image.Color(4, 9), kBlue);
+    EXPECT_EQ(image.Color(5, 0), kRed);
+    EXPECT_EQ(image.Color(6, 0), kRed);
+}
+
+TEST(FloodFill, IgnoresThePlaneOneLeftoversOfImagesWithoutAlpha) {
+    IconImage image = Filled(10, 10, 24, kRed, 255);
+    image.Alpha(3, 3) = 0;
+    EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 0), 100);
+}
+
+TEST(FloodFill, IsFourConnected) {
+    IconImage image = Filled(8, 8, 32, kRed, 255);
+    // A diagonal line of blue splits the image; red on both sides only touches at corners.
+    for (int i = 0; i < 8; ++i)
+        image.Color(i, i) = kBlue;
+    const int painted = FloodFill(image, 7, 0, PackColor(0, 255, 0), 255);
+    EXPECT_EQ(painted, 28);  // the cells above the diagonal
+    EXPECT_EQ(image.Color(0, 7), kRed);
+}
+
+TEST(FloodFill, FollowsWindingPaths) {
+    // A spiral-like comb: columns of red joined alternately at the top and the bottom.
+    IconImage image = Filled(9, 9, 32, kBlue, 255);
+    for (int x = 0; x < 9; x += 2) {
+        for (int y = 1; y < 8; ++y)
+            image.Color(x, y) = kRed;
+    }
+    for (int x = 0; x + 2 < 9; x += 2)
+        image.Color(x + 1, (x / 2) % 2 == 0 ? 7 : 1) = kRed;
+    image.Color(0, 0) = kBlue;
+    const int painted = FloodFill(image, 0, 1, PackColor(0, 255, 0), 255);
+    EXPECT_EQ(painted, 5 * 7 + 4);
+    EXPECT_EQ(image.Color(8, 1), PackColor(0, 255, 0));
+}
+
+TEST(FloodFill, APointOutsideTheImagePaintsNothing) {
+    IconImage image = Filled(10, 10, 32, kRed, 255);
+    EXPECT_EQ(FloodFill(image, -1, 0, kBlue, 255), 0);
+    EXPECT_EQ(FloodFill(image, 10, 0, kBlue, 255), 0);
+    EXPECT_TRUE(FloodRegion(image, 0, 10).empty());
+    EXPECT_EQ(image.Color(0, 0), kRed);
+}
+
+TEST(FloodFill, FillingWithTheSameColourEnds) {
+    IconImage image = Filled(256, 256, 32, kRed, 255);
+    EXPECT_EQ(FloodFill(image, 128, 128, kRed, 255), 256 * 256);
+}
+
+TEST(FloodFill, MatchesMarkerPixels) {
+    IconImage image = Filled(6, 6, 8, TransparentColor, 0);
+    image.Color(2, 2) = kRed;
+    EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 255), 35);
+    EXPECT_EQ(image.Color(2, 2), kRed);
+}
+
+}  // namespace
+}  // namespace iw

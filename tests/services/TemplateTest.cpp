@@ -1,0 +1,250 @@
+// Template files: reading, old-style colour indexes, limits, round trips, the two folders
+// and the editor's operations.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "services/desktop/ProgramFolders.h"
+#include "services/desktop/TemplateEditor.h"
+#include "services/desktop/TemplateFile.h"
+#include "services/desktop/TemplateLibrary.h"
+#include "support/TestSupport.h"
+
+namespace iw {
+namespace {
+
+void WriteText(const std::filesystem::path& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+TEST(TemplateFile, ReadsEntriesAndMapsOldStyleIndexes) {
+    const auto entries =
+        ParseTemplateText("32,32,3,0\r\n32,32,24,0\r\n16, 16, 0, 0\r\n48,48,4,1\r\n");
+    ASSERT_EQ(entries.size(), 4u);
+    EXPECT_EQ(entries[0], entries[1]);  // 3 is the old index of 24 bits
+    EXPECT_EQ(entries[0].widthMinus1, 31);
+    EXPECT_EQ(entries[0].bits, 24);
+    EXPECT_EQ(entries[2].bits, 1);
+    EXPECT_EQ(entries[3].bits, 32);
+    EXPECT_EQ(entries[3].compressed, 1);
+    for (int field : {0, 1, 2, 3, 4})
+        EXPECT_TRUE(TemplateDepthFromField(field).has_value());
+    EXPECT_EQ(*TemplateDepthFromField(1), 4);
+    EXPECT_FALSE(TemplateDepthFromField(16).has_value());
+}
+
+TEST(TemplateFile, StopsAt65EntriesAndAtAnEntryCutOffByTheEnd) {
+    std::string many;
+    for (int i = 1; i <= 70; ++i)
+        many += std::to_string(i) + "," + std::to_string(i) + ",32,0\r\n";
+    const auto entries = ParseTemplateText(many);
+    ASSERT_EQ(entries.size(), 65u);
+    EXPECT_EQ(entries.back().Width(), 65);
+    EXPECT_EQ(ParseTemplateText("16,16,32,0\r\n32,32,32").size(), 1u);
+    // Values are read four at a time whatever the lines: a record may span them.
+    EXPECT_EQ(ParseTemplateText("16,16\r\n32,0\r\n").size(), 1u);
+}
+
+TEST(TemplateFile, SkipsEntriesWithBadValuesInsteadOfFailing) {
+    const auto entries = ParseTemplateText(
+        "0,16,32,0\r\n16,300,32,0\r\n16,16,16,0\r\nx,16,32,0\r\n16,16,32,0\r\n"
+        ",,,\r\n\r\n99999999999,1,1,1\r\n24,24,8,7\r\n");
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[0].Width(), 16);
+    EXPECT_EQ(entries[1].Width(), 24);
+    EXPECT_EQ(entries[1].compressed, 1);
+    EXPECT_TRUE(ParseTemplateText("").empty());
+    EXPECT_TRUE(ParseTemplateText(std::string(1000, ',')).empty());
+}
+
+TEST(TemplateFile, SavedTemplatesLoadBackTheSame) {
+    test::TempDir dir;
+    std::vector<TemplateEntry> entries;
+    for (int side : {1, 47, 256}) {
+        for (int bits : {1, 4, 8, 24, 32}) {
+            TemplateEntry entry;
+            entry.widthMinus1 = static_cast<std::int16_t>(side - 1);
+            entry.heightMinus1 = static_cast<std::int16_t>(side == 47 ? 32 : side - 1);
+            entry.bits = static_cast<std::int16_t>(bits);
+            entry.compressed = bits == 32 ? 1 : 0;
+            entries.push_back(entry);
+        }
+    }
+    const auto file = dir / "Round trip.ini";
+    ASSERT_TRUE(WriteTemplateFile(file, entries));
+    const auto loaded = ReadTemplateFile(file);
+    ASSERT_TRUE(loaded.has_value());
+    EXPECT_EQ(*loaded, entries);
+    EXPECT_EQ(FormatTemplateText({entries[10]}), "256,256,0,0\r\n");
+    EXPECT_FALSE(ReadTemplateFile(dir / "absent.ini").has_value());
+}
+
+TEST(TemplateLibrary, LoadsBothFoldersAndLocksTheProgramsOwn) {
+    test::TempDir program;
+    test::TempDir user;
+    WriteText(program / "Beta.ini", "16,16,32,0\r\n");
+    WriteText(program / "alpha.INI", "32,32,32,0\r\n");
+    WriteText(program / "notes.txt", "16,16,32,0\r\n");
+    WriteText(user / "Mine.ini", "48,48,4,0\r\n");
+    test::MessageFixture messages;
+    TemplateLibrary library;
+    library.LoadAll(program.Path(), user.Path(), messages.service);
+    ASSERT_EQ(library.Templates().size(), 3u);
+    EXPECT_EQ(library.Templates()[0].name, "alpha");
+    EXPECT_EQ(library.Templates()[1].name, "Beta");
+    EXPECT_TRUE(library.Templates()[0].Locked());
+    EXPECT_EQ(library.Templates()[0].lock, "LOCKED");
+    const IconTemplate* mine = library.Find("Mine");
+    ASSERT_NE(mine, nullptr);
+    EXPECT_FALSE(mine->Locked());
+    EXPECT_EQ(mine->entries[0].bits, 32);
+    EXPECT_EQ(mine->EntryCountText(), "1");
+    EXPECT_TRUE(messages.presenter.shown.empty());
+}
+
+TEST(TemplateLibrary, AMissingProgramFolderIsReportedAndTheUsersStillLoad) {
+    test::TempDir user;
+    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
+    test::MessageFixture messages;
+    TemplateLibrary library;
+    library.LoadAll(user / "no-such-folder", user.Path(), messages.service);
+    ASSERT_EQ(messages.presenter.shown.size(), 1u);
+    EXPECT_EQ(messages.presenter.shown[0].text,
+              "The Templates folder could not be found.  Please reinstall Iconwright.");
+    EXPECT_EQ(messages.presenter.shown[0].type, MessageType::Critical);
+    ASSERT_EQ(library.Templates().size(), 1u);
+}
+
+TEST(TemplateLibrary, ShippedTemplatesHoldTheirFormats) {
+    test::MessageFixture messages;
+    TemplateLibrary library;
+    library.LoadAll(test::TestDataPath("../../data/Templates"), {}, messages.service);
+    const IconTemplate* classic = library.Find("Windows Classic");
+    const IconTemplate* app = library.Find("Windows Application");
+    const IconTemplate* all = library.Find("Windows All Sizes");
+    const IconTemplate* favicon = library.Find("Favicon");
+    const IconTemplate* cursor = library.Find("Cursor");
+    ASSERT_TRUE(classic && app && all && favicon && cursor);
+    EXPECT_EQ(classic->entries.size(), 9u);
+    int fourBit = 0;
+    for (const auto& e : classic->entries)
+        fourBit += e.bits == 4 ? 1 : 0;
+    EXPECT_EQ(fourBit, 3);
+    EXPECT_EQ(app->entries.size(), 5u);
+    EXPECT_EQ(all->entries.size(), 14u);
+    EXPECT_EQ(all->entries[0].Width(), 256);
+    EXPECT_EQ(all->entries[0].compressed, 1);
+    EXPECT_EQ(favicon->entries.size(), 3u);
+    ASSERT_EQ(cursor->entries.size(), 1u);
+    EXPECT_EQ(cursor->entries[0].Width(), 32);
+}
+
+TEST(TemplateFolders, ProgramFolderPrefersTheBuildTreeThenTheInstalledDataFolder) {
+    test::TempDir root;
+    std::filesystem::create_directories(root / "bin");
+    EXPECT_EQ(ProgramTemplatesFolder(root / "bin"), root / "share" / "iconwright" / "Templates");
+    std::filesystem::create_directories(root / "bin" / "Templates");
+    EXPECT_EQ(ProgramTemplatesFolder(root / "bin"), root / "bin" / "Templates");
+    setenv("XDG_DATA_HOME", root.Path().c_str(), 1);
+    EXPECT_EQ(EnsureUserTemplatesFolder(), root / "Quorvale" / "Iconwright" / "Templates");
+    EXPECT_TRUE(std::filesystem::is_directory(root / "Quorvale" / "Iconwright" / "Templates"));
+}
+
+TEST(TemplateEditor, LockedTemplatesCannotBeEdited) {
+    IconTemplate locked;
+    locked.name = "Shipped";
+    locked.lock = "LOCKED";
+    test::MessageFixture messages;
+    TemplateEditor editor;
+    EXPECT_FALSE(editor.OpenTemplates(locked, messages.service));
+    ASSERT_EQ(messages.presenter.shown.size(), 1u);
+    EXPECT_EQ(messages.presenter.shown[0].text, "This template cannot be edited.");
+    EXPECT_EQ(editor.Name(), "NEW");
+}
+
+TEST(TemplateEditor, RowsAddRemoveAndMoveWithTheSelection) {
+    TemplateEditor editor;
+    EXPECT_TRUE(editor.AddItem(48, 48, 32, false));
+    EXPECT_TRUE(editor.AddItem(16, 16, 4, false));
+    EXPECT_TRUE(editor.AddItem(256, 256, 32, true));
+    EXPECT_FALSE(editor.AddItem(0, 16, 32, false));
+    EXPECT_FALSE(editor.AddItem(16, 16, 16, false));
+    EXPECT_EQ(editor.SelectedRow(), 2);
+    EXPECT_EQ(editor.UpdateLabel(), "256 x 256");
+    EXPECT_TRUE(editor.MoveUp());
+    EXPECT_TRUE(editor.MoveUp());
+    EXPECT_FALSE(editor.MoveUp());
+    EXPECT_EQ(editor.SelectedRow(), 0);
+    EXPECT_EQ(editor.Rows()[0].size, "256 x 256");
+    EXPECT_EQ(editor.Rows()[0].compressed, "Yes");
+    EXPECT_EQ(editor.Rows()[2].depth, "16 Colors");
+    EXPECT_TRUE(editor.MoveDown());
+    EXPECT_EQ(editor.Entries()[1].Width(), 256);
+    editor.SelectRow(2);
+    EXPECT_TRUE(editor.RemoveItem());
+    EXPECT_EQ(editor.SelectedRow(), 1);  // the new last row
+    EXPECT_EQ(editor.Entries().size(), 2u);
+    editor.UnselectRows();
+    EXPECT_FALSE(editor.RemoveItem());
+    EXPECT_FALSE(editor.MoveDown());
+    EXPECT_EQ(editor.UpdateLabel(), "");
+    editor.SelectRow(7);
+    EXPECT_EQ(editor.SelectedRow(), -1);
+}
+
+TEST(TemplateEditor, HoldsAtMost65Rows) {
+    TemplateEditor editor;
+    for (int i = 0; i < 65; ++i)
+        ASSERT_TRUE(editor.AddItem(16, 16, 32, false));
+    EXPECT_FALSE(editor.AddItem(16, 16, 32, false));
+}
+
+TEST(TemplateEditor, ListsScrollingAndIntegers) {
+    EXPECT_EQ(
+        TemplateEditor::AddColorList(),
+        (std::vector<std::string>{"Monochrome", "16 Colors", "256 Colors", "True Color", "Alpha"}));
+    EXPECT_EQ(TemplateEditor::AddCompressedList(), (std::vector<std::string>{"No", "Yes"}));
+    EXPECT_TRUE(TemplateEditor::IsInteger("48"));
+    EXPECT_TRUE(TemplateEditor::IsInteger("-3"));
+    EXPECT_FALSE(TemplateEditor::IsInteger("4.5"));
+    EXPECT_FALSE(TemplateEditor::IsInteger(""));
+    EXPECT_FALSE(TemplateEditor::IsInteger("-"));
+    TemplateEditor editor;
+    for (int i = 0; i < 10; ++i)
+        editor.AddItem(16, 16, 32, false);
+    editor.SelectRow(9);
+    EXPECT_EQ(editor.UpdateScrollBar(0, 4), 6);
+    editor.SelectRow(1);
+    EXPECT_EQ(editor.UpdateScrollBar(6, 4), 1);
+    editor.UnselectRows();
+    EXPECT_EQ(editor.UpdateScrollBar(50, 4), 6);
+}
+
+TEST(TemplateEditor, SavesUnderTheGivenNameAndLoadsBack) {
+    test::TempDir user;
+    TemplateEditor editor;
+    editor.NewTemplate();
+    EXPECT_EQ(editor.Name(), "NEW");
+    editor.AddItem(32, 32, 1, false);
+    editor.AddItem(24, 16, 4, false);
+    EXPECT_FALSE(editor.SaveTemplates());  // a new template has no file yet
+    EXPECT_FALSE(editor.SaveTemplatesAs("bad/name", user.Path()));
+    ASSERT_TRUE(editor.SaveTemplatesAs("Tiny", user.Path()));
+    EXPECT_EQ(editor.Path(), (user / "Tiny.ini").string());
+    test::MessageFixture messages;
+    TemplateLibrary library;
+    library.LoadAll(test::TestDataPath("../../data/Templates"), user.Path(), messages.service);
+    const IconTemplate* tiny = library.Find("Tiny");
+    ASSERT_NE(tiny, nullptr);
+    EXPECT_EQ(tiny->entries, editor.Entries());
+
+    TemplateEditor reopened;
+    ASSERT_TRUE(reopened.OpenTemplates(*tiny, messages.service));
+    reopened.SelectRow(0);
+    reopened.RemoveItem();
+    ASSERT_TRUE(reopened.SaveTemplates());
+    EXPECT_EQ(ReadTemplateFile(user / "Tiny.ini")->size(), 1u);
+}
+
+}  // namespace
+}  // namespace iw
