@@ -85,6 +85,8 @@ bool Editor::FixInspectorProblem() {
             break;
         }
         case InspectorState::AllBlank:
+            // Nothing to copy from: check again and lay the canvas out anew.
+            RunLayout();
             break;
         case InspectorState::SomeBlank: {
             const int source = CopySource(set_);

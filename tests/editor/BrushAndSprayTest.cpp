@@ -74,14 +74,6 @@ TEST(PlotPixel, DropsTheOriginalPngStream) {
     EXPECT_TRUE(image.originalPng.empty());
 }
 
-TEST(ColorForDepth, MapsOnlyLowDepthsAndNeverMarkers) {
-    EXPECT_EQ(ColorForDepth(PackColor(200, 200, 200), 4), PackColor(192, 192, 192));
-    EXPECT_EQ(ColorForDepth(PackColor(128, 128, 127), 1), PackColor(255, 255, 255));
-    EXPECT_EQ(ColorForDepth(PackColor(200, 200, 200), 8), PackColor(200, 200, 200));
-    EXPECT_EQ(ColorForDepth(TransparentColor, 4), TransparentColor);
-    EXPECT_EQ(ColorForDepth(InverseColor, 1), InverseColor);
-}
-
 TEST(BrushFootprint, SquaresAreSolidBlocks) {
     EXPECT_EQ(Footprint("SSquare"), (std::set<std::pair<int, int>>{{0, 0}}));
     const auto medium = Footprint("MSquare");
@@ -115,10 +107,6 @@ TEST(BrushFootprint, CirclesNestAndAreSymmetric) {
     // reach (2, 2).
     EXPECT_FALSE(medium.count({2, 2}));
     EXPECT_TRUE(large.count({2, 2}));
-}
-
-TEST(BrushFootprint, UnknownShapePlotsNothing) {
-    EXPECT_TRUE(BrushPoints("Huge", 5, 5).empty());
 }
 
 TEST(BrushStamp, DropsPointsLeftOfAndAboveTheImageButPaintsTheRest) {
@@ -194,16 +182,6 @@ TEST(Airbrush, DotsOutsideTheImageAreDropped) {
                 EXPECT_TRUE(x <= 4 && y <= 4);
             }
         }
-    }
-}
-
-TEST(Airbrush, ClockSourceStaysInUnitRange) {
-    ClockRandomSource source;
-    source.Reseed();
-    for (int i = 0; i < 10000; ++i) {
-        const double u = source.NextUnit();
-        ASSERT_GE(u, 0.0);
-        ASSERT_LT(u, 1.0);
     }
 }
 

@@ -76,26 +76,12 @@ TEST(Ellipse, IsSymmetricInsideItsBoxAndTheOutlineIsClosed) {
     EXPECT_FALSE(outline.count({5, 3}));
 }
 
-TEST(Ellipse, OneCellBoxIsOneCell) {
-    EXPECT_EQ(Cells(EllipsePoints({4, 4}, {4, 4}, false)).size(), 1u);
-}
-
 IconImage Blank(int width, int height, int bits) {
     IconImage image;
     image.info.widthMinus1 = static_cast<std::int16_t>(width - 1);
     image.info.heightMinus1 = static_cast<std::int16_t>(height - 1);
     image.info.bitCount = static_cast<std::int16_t>(bits);
     return image;
-}
-
-TEST(Gradient, PositionsRunFromZeroToOne) {
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Vertical, 3, 0, 10, 11), 0.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Vertical, 3, 10, 10, 11), 1.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Horizontal, 9, 4, 10, 11), 1.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Diagonal, 9, 10, 10, 11), 1.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Center, 5, 5, 11, 11), 0.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Center, 0, 10, 11, 11), 1.0);
-    EXPECT_DOUBLE_EQ(GradientPosition(GradientDirection::Vertical, 0, 0, 1, 1), 0.0);
 }
 
 TEST(Gradient, BlendsChannelsAndAlphaFromForegroundToBackground) {

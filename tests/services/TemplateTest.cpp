@@ -199,7 +199,7 @@ TEST(TemplateEditor, HoldsAtMost65Rows) {
     EXPECT_FALSE(editor.AddItem(16, 16, 32, false));
 }
 
-TEST(TemplateEditor, ListsScrollingAndIntegers) {
+TEST(TemplateEditor, ScrollsToTheSelectionAndTakesOnlyIntegers) {
     EXPECT_EQ(
         TemplateEditor::AddColorList(),
         (std::vector<std::string>{"Monochrome", "16 Colors", "256 Colors", "True Color", "Alpha"}));
