@@ -56,7 +56,9 @@ bool IsZlibLoaded() {
 InflateStatus ZlibDecompress(std::span<const std::uint8_t> in, std::size_t maxOutput,
                              std::vector<std::uint8_t>& out) {
     const ZlibLibrary* zlib = ProgramZlib();
-    if (!zlib) return InflateZlib(in, maxOutput, out);
+    // uncompress cannot be given an empty buffer (it then inflates into one byte of its
+    // own and may report success for a non-empty result).
+    if (!zlib || maxOutput == 0) return InflateZlib(in, maxOutput, out);
 
     const std::size_t room = maxOutput < 64 ? maxOutput : MostInflatedSize(in.size(), maxOutput);
     out.resize(room);

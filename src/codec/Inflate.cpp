@@ -181,7 +181,7 @@ InflateStatus Inflater::StoredBlock() {
     const std::size_t available = static_cast<std::size_t>(inEnd_ - in_);
     const std::size_t n = std::min<std::size_t>(len, available);
     if (static_cast<std::size_t>(oend_ - op_) < n && !Grow(n)) return InflateStatus::OutputLimit;
-    std::memcpy(op_, in_, n);
+    if (n) std::memcpy(op_, in_, n);  // op_ is null while nothing has been allowed
     op_ += n;
     in_ += n;
     return n < len ? InflateStatus::TruncatedInput : InflateStatus::Ok;

@@ -40,7 +40,7 @@ class StreamBuilder {
     // `count` bits of `value`, least significant first (header fields, extra bits).
     StreamBuilder& Bits(std::uint32_t value, unsigned count) {
         for (unsigned i = 0; i < count; ++i)
-            PutBit((value >> i) & 1);
+            PutBit(i < 32 ? (value >> i) & 1 : 0);  // zeros past 32
         return *this;
     }
     // A Huffman code: its most significant bit goes first.

@@ -207,6 +207,10 @@ TEST_P(ZlibEntryPoints, RoundTripAndFaultStatuses) {
     wrongHeader[1] ^= 1;
     EXPECT_EQ(ZlibDecompress(wrongHeader, data.size(), out), InflateStatus::BadHeader);
 
+    const std::vector<std::uint8_t> one = {9};
+    EXPECT_EQ(ZlibDecompress(ZlibCompress(one), 0, out), InflateStatus::OutputLimit);
+    EXPECT_TRUE(out.empty());
+
     const std::vector<std::uint8_t> empty;
     const auto emptyStream = ZlibCompress(empty);
     EXPECT_EQ(ZlibDecompress(emptyStream, 0, out), InflateStatus::Ok);
