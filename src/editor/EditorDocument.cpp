@@ -145,7 +145,8 @@ bool Editor::OpenDocument(const std::string& path) {
     set_.Clear();
     set_.properties = {};
     set_.animation = {};
-    if (!services_.documents.Read(path, set_) || set_.Empty()) {
+    CoreContext context{messages_, services_.progress, services_.log};
+    if (!services_.documents.Read(path, set_, context) || set_.Empty()) {
         // The reader has told the user why; a new untitled set takes the failed one's place.
         StartFreshSet(FileMode::ICO, 31, 31, 32, 0);
         AfterNewSet();
@@ -178,7 +179,9 @@ bool Editor::OpenRecent(int number) {
 }
 
 bool Editor::WriteTo(const std::string& path) {
-    if (!services_.documents.Write(path, set_, set_.mode)) return false;
+    CoreContext context{messages_, services_.progress, services_.log};
+    const DocumentWrite how{set_.mode, state_.CurrentIcon};
+    if (!services_.documents.Write(path, set_, how, context)) return false;
     fileName_ = path;
     savedStateKnown_ = true;
     savedStateId_ = history_.StateId();

@@ -33,7 +33,7 @@ inline IconSet CopySet(const IconSet& from) {
 
 class FakeDocumentStore : public IDocumentStore {
   public:
-    bool Read(const std::string& path, IconSet& set) override {
+    bool Read(const std::string& path, IconSet& set, CoreContext&) override {
         reads.push_back(path);
         auto it = files.find(path);
         if (it == files.end()) return false;
@@ -41,7 +41,9 @@ class FakeDocumentStore : public IDocumentStore {
         set.mode = FileModeFromPath(path);
         return true;
     }
-    bool Write(const std::string& path, const IconSet& set, FileMode mode) override {
+    bool Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
+               CoreContext&) override {
+        const FileMode mode = how.mode;
         writes.push_back(path);
         if (failWrites) return false;
         files[path] = CopySet(set);
@@ -108,10 +110,11 @@ class ScriptedRandom : public IRandomSource {
     std::size_t next_ = 0;
 };
 
-// An Editor over fakes, with XDG_DATA_HOME pointed at a temporary folder so that no test
-// touches the real home folder.
-struct EditorFixture {
-    EditorFixture() {
+// An Editor over fakes (and over `Store` for its files), with XDG_DATA_HOME pointed at a
+// temporary folder so that no test touches the real home folder.
+template <typename Store>
+struct BasicEditorFixture {
+    BasicEditorFixture() {
         setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
         folders.dataFolder = temp / "data";
         std::filesystem::create_directories(folders.dataFolder);
@@ -126,11 +129,13 @@ struct EditorFixture {
     RecordingPresenter presenter;
     RecordingProgress progress;
     RecordingLog log;
-    FakeDocumentStore documents;
+    Store documents;
     FakeView view;
     ScriptedRandom random{{0.5}};
     Editor editor{EditorServices{presenter, progress, log, documents, view, random}};
 };
+
+using EditorFixture = BasicEditorFixture<FakeDocumentStore>;
 
 // A set of one image of the given size and depth, every pixel `color` (alpha 255).
 inline IconSet SolidSet(int side, int bits, PackedColor color) {

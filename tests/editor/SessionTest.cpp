@@ -1,9 +1,10 @@
 // A scripted session that drives the editor as the main window will: start, open a file,
-// pick tools and colours, draw, undo and repeat, save, open again and compare. The file
-// store is the in-memory fake of EditorFakes.h.
+// pick tools and colours, draw, undo and repeat, save, open again and compare; once over
+// the in-memory fake file store and once over real files with the real readers and writers.
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
+#include "document/io/IconFileWriter.h"
 #include "editor/PixelStatus.h"
 #include "editor/RecentFiles.h"
 #include "editor/ToolTable.h"
@@ -11,13 +12,15 @@
 namespace iw {
 namespace {
 
-TEST(Session, OpenDrawUndoSaveReopen) {
-    test::EditorFixture f;
-    Editor& editor = f.editor;
-    const std::string path = f.PathFor("session.ico");
+IconSet OriginalSet() {
     IconSet original = test::SolidSet(32, 32, PackColor(255, 255, 255));
     original.AddIcon(15, 15, 32);
-    f.documents.Put(path, original);
+    return original;
+}
+
+template <typename Fixture>
+void DriveSession(Fixture& f, const std::string& path) {
+    Editor& editor = f.editor;
 
     editor.RunStartup(path, f.folders);
     ASSERT_EQ(editor.FileName(), path);
@@ -82,6 +85,24 @@ TEST(Session, OpenDrawUndoSaveReopen) {
     }
     EXPECT_FALSE(editor.UndoEnabled());
     EXPECT_EQ(RecentFile(editor.SettingsStore(), 1), path);
+}
+
+TEST(Session, OpenDrawUndoSaveReopen) {
+    test::EditorFixture f;
+    const std::string path = f.PathFor("session.ico");
+    f.documents.Put(path, OriginalSet());
+    DriveSession(f, path);
+}
+
+TEST(Session, OpenDrawUndoSaveReopenOnRealFiles) {
+    test::BasicEditorFixture<FileDocumentStore> f;
+    const std::string path = f.PathFor("session.ico");
+    MessageService messages(f.editor.Messages().Store(), f.presenter);
+    CoreContext context{messages, f.progress, f.log};
+    ASSERT_TRUE(WriteIconFile(path, OriginalSet(), context));
+    DriveSession(f, path);
+    // What is on disk is an icon file that the reader takes back whole.
+    EXPECT_GT(std::filesystem::file_size(path), 6u + 2 * 16 + 2 * 40);
 }
 
 }  // namespace
