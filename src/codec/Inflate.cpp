@@ -303,8 +303,10 @@ InflateStatus Inflater::HuffmanBlock(const std::uint32_t* litlen, const std::uin
         if (room >= length + kSlop) {
             CopyMatch(op_, distance, length);
         } else {
+            // Near the end of the buffer: byte by byte (the source may overlap the copy).
+            const std::uint8_t* src = op_ - distance;
             for (std::size_t i = 0; i < length; ++i)
-                op_[i] = op_[i - distance];
+                op_[i] = src[i];
         }
         op_ += length;
     }
