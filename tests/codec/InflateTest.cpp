@@ -17,7 +17,7 @@ std::span<const std::uint8_t> AsBytes(std::string_view text) {
 }
 
 InflateStatus Inflate(const std::vector<std::uint8_t>& stream, std::vector<std::uint8_t>& out,
-                  std::size_t limit = 1 << 20) {
+                      std::size_t limit = 1 << 20) {
     return InflateZlib(stream, limit, out);
 }
 
