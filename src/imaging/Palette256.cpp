@@ -67,17 +67,7 @@ void PaletteBuilder::Yield() {
 }
 
 void PaletteBuilder::ExactPalette() {
-    seen_.Clear();
-    paletteLast_ = -1;
-    palette_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
-    for (int x = 0; x < width_; ++x) {
-        for (int y = 0; y < height_; ++y) {
-            PackedColor c = work_[Cell(x, y)];
-            if (c == TransparentColor) c = 0x000000;
-            if (c == InverseColor) c = 0xFFFFFF;
-            if (seen_.Insert(c)) palette_[static_cast<std::size_t>(++paletteLast_)] = c;
-        }
-    }
+    CollectColors([](PackedColor c) { return c; });
 }
 
 void PaletteBuilder::DitherToPalette() {

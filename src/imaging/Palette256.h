@@ -93,6 +93,10 @@ class PaletteBuilder {
                static_cast<std::size_t>(x);
     }
     void CountingPass(int step);
+    // One column-by-column pass that enters each pixel's colour, as `reduce` makes it, into
+    // the palette the first time it is seen. Marker pixels count as black and white.
+    template <typename Reduce>
+    void CollectColors(Reduce reduce);
     void Yield();
 
     int width_;
@@ -106,5 +110,25 @@ class PaletteBuilder {
     SeenColorTable seen_;
     IProgressSink* progress_;
 };
+
+}  // namespace iw
+
+namespace iw {
+
+template <typename Reduce>
+void PaletteBuilder::CollectColors(Reduce reduce) {
+    seen_.Clear();
+    paletteLast_ = -1;
+    palette_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
+    for (int x = 0; x < width_; ++x) {
+        for (int y = 0; y < height_; ++y) {
+            PackedColor c = work_[Cell(x, y)];
+            if (c == TransparentColor) c = 0x000000;
+            if (c == InverseColor) c = 0xFFFFFF;
+            const PackedColor entered = reduce(c);
+            if (seen_.Insert(entered)) palette_[static_cast<std::size_t>(++paletteLast_)] = entered;
+        }
+    }
+}
 
 }  // namespace iw

@@ -68,22 +68,11 @@ void PaletteBuilder::CountPaletteColors() {
 
 void PaletteBuilder::CountingPass(int step) {
     const std::array<int, 256> coarse = CoarseningTable(step);
-    seen_.Clear();
-    paletteLast_ = -1;
-    palette_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
-
-    for (int x = 0; x < width_; ++x) {
-        for (int y = 0; y < height_; ++y) {
-            PackedColor c = work_[Cell(x, y)];
-            // Marker pixels count as colours like any other.
-            if (c == TransparentColor) c = 0x000000;
-            if (c == InverseColor) c = 0xFFFFFF;
-            const PackedColor reduced = coarse[static_cast<std::size_t>(ChannelRed(c))] +
-                                        256 * coarse[static_cast<std::size_t>(ChannelGreen(c))] +
-                                        65536 * coarse[static_cast<std::size_t>(ChannelBlue(c))];
-            if (seen_.Insert(reduced)) palette_[static_cast<std::size_t>(++paletteLast_)] = reduced;
-        }
-    }
+    CollectColors([&coarse](PackedColor c) {
+        return coarse[static_cast<std::size_t>(ChannelRed(c))] +
+               256 * coarse[static_cast<std::size_t>(ChannelGreen(c))] +
+               65536 * coarse[static_cast<std::size_t>(ChannelBlue(c))];
+    });
 }
 
 }  // namespace iw

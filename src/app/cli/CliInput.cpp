@@ -117,6 +117,23 @@ bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
     return true;
 }
 
+bool SplitArguments(const Args& args, std::vector<std::string>& plain, OutputOptions& options,
+                    bool& help, std::string& error) {
+    help = false;
+    for (std::size_t i = 0; i < args.size();) {
+        if (IsHelpFlag(args[i])) {
+            help = true;
+            return true;
+        }
+        if (args[i].size() > 1 && args[i][0] == '-') {
+            if (!ParseOutputOption(args, i, options, error)) return false;
+            continue;
+        }
+        plain.push_back(args[i++]);
+    }
+    return true;
+}
+
 std::string OutputKind(const std::string& path) {
     const std::string lower = Lower(path);
     for (const char* ext : {".ico", ".cur", ".ani"}) {

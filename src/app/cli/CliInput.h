@@ -35,6 +35,11 @@ struct OutputOptions {
 bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
                        std::string& error);
 
+// Splits a command's arguments into its plain arguments and its output options. Returns
+// false with `error` set on a bad option; sets `help` when --help or -h is among them.
+bool SplitArguments(const Args& args, std::vector<std::string>& plain, OutputOptions& options,
+                    bool& help, std::string& error);
+
 // ".ico", ".cur" or ".ani" by OUT's extension (any case); empty for anything else.
 std::string OutputKind(const std::string& path);
 

@@ -45,17 +45,12 @@ int ConvertPicture(const std::string& in, const std::string& out) {
 int RunConvert(const Args& args) {
     std::vector<std::string> files;
     OutputOptions options;
-    for (std::size_t i = 0; i < args.size();) {
-        if (IsHelpFlag(args[i])) {
-            std::cout << "usage: " << kUsage << "\n\n" << kHelp;
-            return kExitOk;
-        }
-        if (args[i].size() > 1 && args[i][0] == '-') {
-            std::string error;
-            if (!ParseOutputOption(args, i, options, error)) return UsageError(error, kUsage);
-            continue;
-        }
-        files.push_back(args[i++]);
+    bool help = false;
+    std::string error;
+    if (!SplitArguments(args, files, options, help, error)) return UsageError(error, kUsage);
+    if (help) {
+        std::cout << "usage: " << kUsage << "\n\n" << kHelp;
+        return kExitOk;
     }
     if (files.size() != 2) return UsageError("convert takes IN and OUT", kUsage);
     const std::string& in = files[0];

@@ -57,27 +57,21 @@ bool ParseItem(const std::string& text, PackItem& item) {
 }  // namespace
 
 int RunPack(const Args& args) {
-    std::string out;
-    std::vector<PackItem> items;
+    std::vector<std::string> plain;
     OutputOptions options;
-    for (std::size_t i = 0; i < args.size();) {
-        if (IsHelpFlag(args[i])) {
-            std::cout << "usage: " << kUsage << "\n\n" << kHelp;
-            return kExitOk;
-        }
-        if (args[i].size() > 1 && args[i][0] == '-') {
-            std::string error;
-            if (!ParseOutputOption(args, i, options, error)) return UsageError(error, kUsage);
-            continue;
-        }
-        if (out.empty()) {
-            out = args[i++];
-            continue;
-        }
+    bool help = false;
+    std::string error;
+    if (!SplitArguments(args, plain, options, help, error)) return UsageError(error, kUsage);
+    if (help) {
+        std::cout << "usage: " << kUsage << "\n\n" << kHelp;
+        return kExitOk;
+    }
+    const std::string out = plain.empty() ? std::string() : plain.front();
+    std::vector<PackItem> items;
+    for (std::size_t i = 1; i < plain.size(); ++i) {
         PackItem item;
-        if (!ParseItem(args[i], item)) return UsageError("bad picture " + args[i], kUsage);
+        if (!ParseItem(plain[i], item)) return UsageError("bad picture " + plain[i], kUsage);
         items.push_back(item);
-        ++i;
     }
     if (out.empty() || items.empty()) return UsageError("pack takes OUT and pictures", kUsage);
     if (OutputKind(out).empty()) return UsageError("OUT must end in .ico, .cur or .ani", kUsage);

@@ -30,13 +30,16 @@ std::filesystem::path UserDataFolder() {
     return base / "Quorvale" / "Iconwright";
 }
 
-std::filesystem::path EnsureUserDataFolder() {
-    std::filesystem::path folder = UserDataFolder();
+std::filesystem::path EnsureFolder(const std::filesystem::path& folder) {
     if (folder.empty()) return {};
     std::error_code ec;
     std::filesystem::create_directories(folder, ec);
     if (ec || !std::filesystem::is_directory(folder, ec)) return {};
     return folder;
+}
+
+std::filesystem::path EnsureUserDataFolder() {
+    return EnsureFolder(UserDataFolder());
 }
 
 }  // namespace iw

@@ -12,4 +12,8 @@ std::filesystem::path UserDataFolder();
 // The folder, created with its parents when missing; empty when it cannot be made.
 std::filesystem::path EnsureUserDataFolder();
 
+// `folder` made with its parents when missing; empty when `folder` is empty or cannot be
+// made.
+std::filesystem::path EnsureFolder(const std::filesystem::path& folder);
+
 }  // namespace iw

@@ -36,12 +36,7 @@ std::filesystem::path UserTemplatesFolder() {
 }
 
 std::filesystem::path EnsureUserTemplatesFolder() {
-    const std::filesystem::path folder = UserTemplatesFolder();
-    if (folder.empty()) return {};
-    std::error_code ec;
-    std::filesystem::create_directories(folder, ec);
-    if (ec || !std::filesystem::is_directory(folder, ec)) return {};
-    return folder;
+    return EnsureFolder(UserTemplatesFolder());
 }
 
 }  // namespace iw
