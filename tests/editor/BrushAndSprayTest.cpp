@@ -12,6 +12,8 @@
 namespace iw {
 namespace {
 
+using Cells = std::set<std::pair<int, int>>;
+
 IconImage Image(int side, int bits) {
     IconImage image;
     image.info.widthMinus1 = static_cast<std::int16_t>(side - 1);
@@ -20,124 +22,95 @@ IconImage Image(int side, int bits) {
     return image;
 }
 
-std::set<std::pair<int, int>> Footprint(std::string_view shape) {
-    std::set<std::pair<int, int>> cells;
+Cells Footprint(std::string_view shape) {
+    Cells cells;
     for (const Point& p : BrushPoints(shape, 0, 0))
         cells.insert({p.x, p.y});
     return cells;
 }
 
-int PaintedCells(const IconImage& image, PackedColor color) {
-    int count = 0;
+// The cells of the whole 256 x 256 store that hold `color`.
+Cells Painted(const IconImage& image, PackedColor color) {
+    Cells cells;
     for (int x = 0; x < IconImage::kSide; ++x) {
-        for (int y = 0; y < IconImage::kSide; ++y)
-            count += image.Color(x, y) == color ? 1 : 0;
+        for (int y = 0; y < IconImage::kSide; ++y) {
+            if (image.Color(x, y) == color) cells.insert({x, y});
+        }
     }
-    return count;
+    return cells;
 }
 
-TEST(PlotPixel, WritesAlphaOnlyInto32BitImages) {
+TEST(PlotPixel, StoresTheColourAsGivenAlphaOnlyAt32BitsAndDropsPointsOutside) {
     IconImage deep = Image(16, 32);
-    IconImage flat = Image(16, 24);
-    flat.Alpha(3, 4) = 77;
+    IconImage mono = Image(16, 1);
+    mono.Alpha(3, 4) = 77;
+    deep.originalPng = {1, 2, 3};
+    EXPECT_FALSE(PlotPixel(deep, 99, 99, 5, 255));
+    EXPECT_FALSE(deep.originalPng.empty());
     EXPECT_TRUE(PlotPixel(deep, 3, 4, PackColor(1, 2, 3), 100));
-    EXPECT_TRUE(PlotPixel(flat, 3, 4, PackColor(1, 2, 3), 100));
+    EXPECT_TRUE(deep.originalPng.empty());  // the pixels no longer match the stream
+    EXPECT_TRUE(PlotPixel(mono, 3, 4, PackColor(10, 200, 30), 100));
+    EXPECT_TRUE(PlotPixel(mono, 5, 5, InverseColor, 100));
     EXPECT_EQ(deep.Alpha(3, 4), 100);
-    EXPECT_EQ(flat.Alpha(3, 4), 77);
-    EXPECT_EQ(flat.Color(3, 4), PackColor(1, 2, 3));
+    EXPECT_EQ(mono.Alpha(3, 4), 77);
+    EXPECT_EQ(mono.Color(3, 4), PackColor(10, 200, 30));  // no palette matching here
+    EXPECT_EQ(mono.Color(5, 5), InverseColor);
+    for (const auto& [x, y] : {std::pair{-1, 0}, {0, -1}, {16, 0}, {0, 16}})
+        EXPECT_FALSE(PlotPixel(deep, x, y, 5, 255)) << x << "," << y;
+    EXPECT_TRUE(Painted(deep, 5).empty());
 }
 
-TEST(PlotPixel, StoresColoursUnmappedAtEveryDepthAndKeepsMarkers) {
-    IconImage mono = Image(8, 1);
-    PlotPixel(mono, 0, 0, PackColor(10, 200, 30), 255);
-    PlotPixel(mono, 1, 0, InverseColor, 255);
-    EXPECT_EQ(mono.Color(0, 0), PackColor(10, 200, 30));
-    EXPECT_EQ(mono.Color(1, 0), InverseColor);
-}
-
-TEST(PlotPixel, DropsPointsOutsideTheImageOnEverySide) {
-    IconImage image = Image(16, 32);
-    EXPECT_FALSE(PlotPixel(image, -1, 0, 5, 255));
-    EXPECT_FALSE(PlotPixel(image, 0, -1, 5, 255));
-    EXPECT_FALSE(PlotPixel(image, 16, 0, 5, 255));
-    EXPECT_FALSE(PlotPixel(image, 0, 16, 5, 255));
-    EXPECT_EQ(PaintedCells(image, 5), 0);
-    EXPECT_TRUE(PlotPixel(image, 15, 15, 5, 255));
-}
-
-TEST(PlotPixel, DropsTheOriginalPngStream) {
-    IconImage image = Image(16, 32);
-    image.originalPng = {1, 2, 3};
-    PlotPixel(image, 99, 99, 5, 255);
-    EXPECT_FALSE(image.originalPng.empty());
-    PlotPixel(image, 1, 1, 5, 255);
-    EXPECT_TRUE(image.originalPng.empty());
-}
-
-TEST(BrushFootprint, SquaresAreSolidBlocks) {
-    EXPECT_EQ(Footprint("SSquare"), (std::set<std::pair<int, int>>{{0, 0}}));
-    const auto medium = Footprint("MSquare");
-    const auto large = Footprint("LSquare");
-    EXPECT_EQ(medium.size(), 9u);
+TEST(BrushFootprint, SquaresAreBlocksAndCirclesNestSymmetrically) {
+    EXPECT_EQ(Footprint("SSquare"), (Cells{{0, 0}}));
+    EXPECT_EQ(Footprint("MSquare").size(), 9u);
+    const Cells large = Footprint("LSquare");
     EXPECT_EQ(large.size(), 25u);
-    for (const auto& [x, y] : large) {
-        EXPECT_LE(std::abs(x), 2);
-        EXPECT_LE(std::abs(y), 2);
-    }
-}
+    EXPECT_TRUE(large.count({-2, -2}) && large.count({2, 2}));
 
-TEST(BrushFootprint, CirclesNestAndAreSymmetric) {
-    const auto small = Footprint("SCircle");
-    const auto medium = Footprint("MCircle");
-    const auto large = Footprint("LCircle");
-    EXPECT_EQ(small, (std::set<std::pair<int, int>>{{0, 0}, {0, -1}, {0, 1}, {-1, 0}, {1, 0}}));
-    for (const auto& cell : small)
-        EXPECT_TRUE(medium.count(cell));
-    for (const auto& cell : medium)
-        EXPECT_TRUE(large.count(cell));
+    const Cells small = Footprint("SCircle");
+    const Cells medium = Footprint("MCircle");
+    const Cells ring3 = Footprint("LCircle");
+    EXPECT_EQ(small, (Cells{{0, 0}, {0, -1}, {0, 1}, {-1, 0}, {1, 0}}));
+    EXPECT_TRUE(std::includes(medium.begin(), medium.end(), small.begin(), small.end()));
+    EXPECT_TRUE(std::includes(ring3.begin(), ring3.end(), medium.begin(), medium.end()));
     // 360 integer radians hit every cell of both rings: 16 cells at radius 2, 24 at 3.
     EXPECT_EQ(medium.size(), 5u + 16u);
-    EXPECT_EQ(large.size(), 5u + 16u + 24u);
-    for (const auto& [x, y] : large) {
-        EXPECT_TRUE(large.count({-x, y}));
-        EXPECT_TRUE(large.count({x, -y}));
+    EXPECT_EQ(ring3.size(), 5u + 16u + 24u);
+    for (const auto& [x, y] : ring3) {
+        EXPECT_TRUE(ring3.count({-x, y}) && ring3.count({x, -y}));
         EXPECT_LE(std::max(std::abs(x), std::abs(y)), 3);
     }
-    // The radius-2 ring never reaches the corners of the 5 x 5 block, the radius-3 ring does
-    // reach (2, 2).
-    EXPECT_FALSE(medium.count({2, 2}));
-    EXPECT_TRUE(large.count({2, 2}));
+    EXPECT_FALSE(medium.count({2, 2}));  // the radius-2 ring misses the block's corners
+    EXPECT_TRUE(ring3.count({2, 2}));
 }
 
-TEST(BrushStamp, DropsPointsLeftOfAndAboveTheImageButPaintsTheRest) {
+TEST(BrushStamp, DropsPointsOutsideTheImageAndPaintsTheRest) {
     IconImage image = Image(16, 32);
     StampBrush(image, "LSquare", 0, 0, 9, 255);
-    EXPECT_EQ(PaintedCells(image, 9), 9);  // the 3 x 3 quarter inside
-    IconImage circle = Image(16, 32);
-    StampBrush(circle, "SCircle", -1, 5, 9, 255);
-    EXPECT_EQ(PaintedCells(circle, 9), 1);  // only (0, 5) of the plus
-    EXPECT_EQ(circle.Color(0, 5), 9);
-}
-
-TEST(BrushStamp, ClipsAtTheRightAndBottomEdgesWithoutWrapping) {
-    IconImage image = Image(16, 32);
-    StampBrush(image, "LSquare", 15, 15, 9, 255);
-    EXPECT_EQ(PaintedCells(image, 9), 9);
-    EXPECT_EQ(image.Color(16, 15), 0);  // a cell of the store beyond the image
-    EXPECT_EQ(image.Color(0, 16), 0);
+    EXPECT_EQ(Painted(image, 9).size(), 9u);  // the 3 x 3 quarter inside
+    StampBrush(image, "SCircle", -1, 8, 7, 255);
+    EXPECT_EQ(Painted(image, 7), (Cells{{0, 8}}));
+    StampBrush(image, "LSquare", 15, 15, 6, 255);  // no wrapping into the next row
+    EXPECT_EQ(Painted(image, 6), (Cells{{13, 13},
+                                        {13, 14},
+                                        {13, 15},
+                                        {14, 13},
+                                        {14, 14},
+                                        {14, 15},
+                                        {15, 13},
+                                        {15, 14},
+                                        {15, 15}}));
 }
 
 TEST(BrushStroke, LeavesNoGapsBetweenDistantPoints) {
     IconImage image = Image(32, 32);
     StampBrush(image, "SSquare", 0, 0, 9, 255);
     BrushStroke(image, "SSquare", {0, 0}, {20, 10}, 9, 255);
-    EXPECT_EQ(PaintedCells(image, 9), 21);  // one cell for every column of the line
-    for (int x = 0; x <= 20; ++x) {
-        int inColumn = 0;
-        for (int y = 0; y < 32; ++y)
-            inColumn += image.Color(x, y) == 9 ? 1 : 0;
-        EXPECT_EQ(inColumn, 1) << "column " << x;
-    }
+    std::set<int> columns;
+    for (const auto& cell : Painted(image, 9))
+        columns.insert(cell.first);
+    EXPECT_EQ(Painted(image, 9).size(), 21u);  // one cell in each column of the line
+    EXPECT_EQ(columns.size(), 21u);
 }
 
 TEST(Airbrush, DrawsOneChanceInThirtyThreeAndReseedsEverySpray) {
@@ -147,42 +120,26 @@ TEST(Airbrush, DrawsOneChanceInThirtyThreeAndReseedsEverySpray) {
     test::ScriptedRandom never({0.5, 0.01, 0.99, 1.5 / 33.0, 3.5 / 33.0});
     EXPECT_TRUE(SprayPoints(10, 10, 4, never).empty());
     EXPECT_EQ(never.reseeds, 1);
-}
-
-TEST(Airbrush, StaysWithinItsRadius) {
-    test::ScriptedRandom always({2.5 / 33.0});
-    for (int radius : {4, 6, 8}) {
-        for (const Point& dot : SprayPoints(50, 60, radius, always)) {
-            EXPECT_LE(std::abs(dot.x - 50), radius);
-            EXPECT_LE(std::abs(dot.y - 60), radius);
-        }
-    }
-}
-
-TEST(Airbrush, RingZeroHitsTheCentre) {
-    // Only the last ring's 360 chances (r = 0) come out as dots.
+    // Only the last ring's 360 chances (r = 0) come out as dots, all on the centre.
     std::vector<double> values(4 * 360, 0.9);
     values.resize(5 * 360, 2.5 / 33.0);
     test::ScriptedRandom lastRing(values);
     const auto dots = SprayPoints(7, 8, 4, lastRing);
-    ASSERT_EQ(dots.size(), 360u);
-    for (const Point& dot : dots)
-        EXPECT_EQ(dot, (Point{7, 8}));
+    EXPECT_EQ(dots, std::vector<Point>(360, Point{7, 8}));
 }
 
-TEST(Airbrush, DotsOutsideTheImageAreDropped) {
+TEST(Airbrush, StaysWithinItsRadiusAndDropsDotsOutsideTheImage) {
     test::ScriptedRandom always({2.5 / 33.0});
+    for (int radius : {4, 6, 8}) {
+        for (const Point& dot : SprayPoints(50, 60, radius, always))
+            EXPECT_LE(std::hypot(dot.x - 50, dot.y - 60), radius + 0.75);
+    }
     IconImage image = Image(16, 32);
     Spray(image, 0, 0, 4, 9, 255, always);
-    const int painted = PaintedCells(image, 9);
-    EXPECT_GT(painted, 0);
-    for (int x = 0; x < 16; ++x) {
-        for (int y = 0; y < 16; ++y) {
-            if (image.Color(x, y) == 9) {
-                EXPECT_TRUE(x <= 4 && y <= 4);
-            }
-        }
-    }
+    const Cells painted = Painted(image, 9);
+    EXPECT_TRUE(painted.count({0, 0}) && painted.count({4, 0}) && painted.count({0, 4}));
+    for (const auto& [x, y] : painted)
+        EXPECT_TRUE(x <= 4 && y <= 4) << x << "," << y;
 }
 
 }  // namespace

@@ -8,13 +8,27 @@
 namespace iw {
 namespace {
 
-using test::EditorFixture;
-
 struct Lifecycle : ::testing::Test {
-    EditorFixture f;
+    test::EditorFixture f;
     Editor& editor = f.editor;
 
-    void Start(std::string_view commandLine = "") { editor.RunStartup(commandLine, f.folders); }
+    StartupResult Start(std::string_view commandLine = "") {
+        return editor.RunStartup(commandLine, f.folders);
+    }
+    // Writes settings as a previous run would have left them.
+    void SaveSettings(const std::vector<std::pair<std::string, std::string>>& values) {
+        XmlStore store;
+        store.SetFilePath(f.folders.dataFolder / "settings.xml");
+        for (const auto& [key, value] : values)
+            store.SetValue("Settings\\" + key, value);
+        ASSERT_TRUE(store.Save());
+    }
+    // The key and text of the last message box.
+    std::string LastMessage() const {
+        return f.presenter.shown.empty()
+                   ? ""
+                   : f.presenter.shown.back().key + ": " + f.presenter.shown.back().text;
+    }
     // Draws one pixel as the canvas would: a pencil press and release.
     void Draw(Point at) {
         editor.State().CurrentTool = "Pencil";
@@ -24,44 +38,33 @@ struct Lifecycle : ::testing::Test {
 };
 
 TEST_F(Lifecycle, StartupMakesAnUntitledBlankSetAndWritesExitOK) {
-    const StartupResult result = editor.RunStartup("", f.folders);
-    EXPECT_TRUE(result.showStartupDialog);
+    EXPECT_TRUE(Start().showStartupDialog);
     EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
     ASSERT_EQ(editor.Set().Count(), 1);
     EXPECT_EQ(editor.Set().Info(0).Width(), 32);
     EXPECT_EQ(editor.Set().Info(0).bitCount, 32);
     EXPECT_EQ(editor.SettingsStore().GetValue("Settings\\ExitOK", ""), "False");
     EXPECT_EQ(f.view.splashes, 1);
-    EXPECT_EQ(f.view.restoredMaximised, true);
-    EXPECT_EQ(f.view.useFont, false);
+    EXPECT_TRUE(f.view.restored->Maximised());
     EXPECT_TRUE(editor.Unmodified());
     EXPECT_FALSE(editor.HasFileName());
     EXPECT_EQ(editor.Language(), "English");
-    // The program's templates load, locked.
-    const IconTemplate* classic = editor.Templates().Find("Windows Classic");
-    ASSERT_NE(classic, nullptr);
-    EXPECT_TRUE(classic->Locked());
-    EXPECT_EQ(editor.RequiredFormats().size(), 5u);
 }
 
 TEST_F(Lifecycle, StartupReadsItsSettingsFromTheDataFolder) {
-    {
-        XmlStore store;
-        store.SetFilePath(f.folders.dataFolder / "settings.xml");
-        store.SetValue("Settings\\Splash", "0");
-        store.SetValue("Settings\\State", "0");
-        store.SetValue("Settings\\Width", "9000");
-        store.SetValue("Settings\\Startup", "2");
-        store.SetValue("Settings\\BlankIcon", "1");
-        store.SetValue("Settings\\ExitOK", "False");
-        store.SetValue("Settings\\UseFont", "True");
-        ASSERT_TRUE(store.Save());
-    }
-    const StartupResult result = editor.RunStartup("", f.folders);
+    SaveSettings({{"Splash", "0"},
+                  {"State", "0"},
+                  {"Width", "9000"},
+                  {"Startup", "2"},
+                  {"BlankIcon", "1"},
+                  {"ExitOK", "False"},
+                  {"UseFont", "True"}});
+    const StartupResult result = Start();
     EXPECT_EQ(f.view.splashes, 0);
-    EXPECT_EQ(f.view.restoredMaximised, false);
-    EXPECT_EQ(f.view.restoredWidth, 9000);
-    EXPECT_EQ(f.view.restoredHeight, 8000);
+    ASSERT_TRUE(f.view.restored.has_value());
+    EXPECT_FALSE(f.view.restored->Maximised());
+    EXPECT_EQ(f.view.restored->widthTwips, 9000);
+    EXPECT_EQ(f.view.restored->heightTwips, 8000);
     EXPECT_EQ(f.view.useFont, true);
     EXPECT_FALSE(result.previousRunEndedCleanly);
     EXPECT_FALSE(result.showStartupDialog);
@@ -70,15 +73,11 @@ TEST_F(Lifecycle, StartupReadsItsSettingsFromTheDataFolder) {
 
 TEST_F(Lifecycle, StartupOpensTheMostRecentFileOnlyWhenItExists) {
     const std::string path = f.PathFor("recent.ico");
+    SaveSettings({{"Startup", "1"}, {"RecentFile1", path}});
+    Start();
+    EXPECT_FALSE(editor.HasFileName());
     f.documents.Put(path, test::SolidSet(16, 32, PackColor(1, 2, 3)));
-    {
-        XmlStore store;
-        store.SetFilePath(f.folders.dataFolder / "settings.xml");
-        store.SetValue("Settings\\Startup", "1");
-        store.SetValue("Settings\\RecentFile1", path);
-        store.Save();
-    }
-    EXPECT_FALSE(editor.RunStartup("", f.folders).showStartupDialog);
+    Start();
     EXPECT_EQ(editor.FileName(), path);
     EXPECT_EQ(f.view.caption, "recent.ico - Quorvale Iconwright");
 }
@@ -86,8 +85,7 @@ TEST_F(Lifecycle, StartupOpensTheMostRecentFileOnlyWhenItExists) {
 TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
     const std::string path = f.PathFor("given.ico");
     f.documents.Put(path, test::SolidSet(16, 32, PackColor(1, 2, 3)));
-    const StartupResult result = editor.RunStartup("  \"" + path + "\" /log ", f.folders);
-    EXPECT_TRUE(result.logRequested);
+    const StartupResult result = Start("  \"" + path + "\" /log ");
     EXPECT_TRUE(f.view.logShown);
     EXPECT_FALSE(result.showStartupDialog);
     EXPECT_EQ(editor.FileName(), path);
@@ -99,10 +97,8 @@ TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
     EXPECT_EQ(f.presenter.shown[0].text,
               "This file cannot be found or the command is invalid.\n/nowhere/x.ico");
     EXPECT_EQ(editor.FileName(), path);  // the window keeps what it had
-}
 
-TEST_F(Lifecycle, AnEditRequestShowsTheRequestingProgram) {
-    Start();
+    // A request file from another program.
     const std::string icon = f.PathFor("for-app.ico");
     f.documents.Put(icon, test::SolidSet(32, 32, PackColor(9, 9, 9)));
     XmlStore request;
@@ -115,21 +111,15 @@ TEST_F(Lifecycle, AnEditRequestShowsTheRequestingProgram) {
     EXPECT_EQ(editor.FileName(), icon);
 }
 
-TEST_F(Lifecycle, AskToSaveAnswersNoWithoutAskingWhenUnchanged) {
+TEST_F(Lifecycle, AskToSaveAsksOnlyAfterChangesAndNamesTheFileOrUntitled) {
     Start();
     EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
     EXPECT_TRUE(f.presenter.shown.empty());
-}
-
-TEST_F(Lifecycle, AskToSaveNamesTheFileOrUntitled) {
-    Start();
     Draw({1, 1});
-    EXPECT_FALSE(editor.Unmodified());
     f.presenter.answer = MessageAnswer::No;
     EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
     ASSERT_EQ(f.presenter.shown.size(), 1u);
-    EXPECT_EQ(f.presenter.shown[0].key, "SaveUntitled");
-    EXPECT_EQ(f.presenter.shown[0].text, "Save changes to untitled?");
+    EXPECT_EQ(LastMessage(), "SaveUntitled: Save changes to untitled?");
     EXPECT_EQ(f.presenter.shown[0].buttons, MessageButtons::YesNoCancel);
     EXPECT_EQ(f.presenter.shown[0].type, MessageType::Exclamation);
 
@@ -138,8 +128,7 @@ TEST_F(Lifecycle, AskToSaveNamesTheFileOrUntitled) {
     ASSERT_TRUE(editor.Save());
     Draw({2, 2});
     editor.AskToSave();
-    EXPECT_EQ(f.presenter.shown.back().key, "SaveFilename");
-    EXPECT_EQ(f.presenter.shown.back().text, "Save changes to " + path + "?");
+    EXPECT_EQ(LastMessage(), "SaveFilename: Save changes to " + path + "?");
 }
 
 TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
@@ -147,7 +136,6 @@ TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
     Draw({1, 1});
     f.presenter.answer = MessageAnswer::Cancel;
     EXPECT_FALSE(editor.NewDocument());
-    EXPECT_EQ(editor.LastAnswer(), MessageAnswer::Cancel);
     EXPECT_EQ(editor.CurrentImage().Color(1, 1), editor.State().ForeColor);
     EXPECT_FALSE(editor.QueryClose());
 
@@ -162,8 +150,7 @@ TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {
     Start();
     Draw({1, 1});
     f.presenter.answer = MessageAnswer::Yes;
-    f.view.savePath.reset();  // the Save As dialog is cancelled
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);
+    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);  // the Save As dialog is cancelled
     EXPECT_EQ(f.view.savePathRequests, 1);
 
     f.view.savePath = f.PathFor("saved.ico");
@@ -185,8 +172,8 @@ TEST_F(Lifecycle, SaveAsAsksBeforeOverwritingAndOnlyYesGoesOn) {
     f.presenter.answer = MessageAnswer::No;
     EXPECT_FALSE(editor.SaveAs(path));
     ASSERT_EQ(f.presenter.shown.size(), 1u);
-    EXPECT_EQ(f.presenter.shown[0].key, "OverwriteFile");
-    EXPECT_EQ(f.presenter.shown[0].text, "The file " + path + " already exists.  OK to overwrite?");
+    EXPECT_EQ(LastMessage(),
+              "OverwriteFile: The file " + path + " already exists.  OK to overwrite?");
     EXPECT_TRUE(f.documents.writes.empty());
     f.presenter.answer = MessageAnswer::Yes;
     EXPECT_TRUE(editor.SaveAs(path));
@@ -199,7 +186,6 @@ TEST_F(Lifecycle, UndoBackToTheSavedStateClearsTheModifiedFlag) {
     f.view.savePath = f.PathFor("flag.ico");
     Draw({1, 1});
     ASSERT_TRUE(editor.Save());
-    EXPECT_TRUE(editor.Unmodified());
     Draw({2, 2});
     EXPECT_FALSE(editor.Unmodified());
     editor.Undo();
@@ -212,7 +198,7 @@ TEST_F(Lifecycle, UndoBackToTheSavedStateClearsTheModifiedFlag) {
     EXPECT_FALSE(editor.Unmodified());
 }
 
-TEST_F(Lifecycle, OpeningAMissingOrUnreadableFile) {
+TEST_F(Lifecycle, OpeningAMissingOrUnreadableFileKeepsTheSet) {
     Start();
     EXPECT_FALSE(editor.OpenDocument(f.PathFor("absent.ico")));
     ASSERT_EQ(f.presenter.shown.size(), 1u);
@@ -226,9 +212,15 @@ TEST_F(Lifecycle, OpeningAMissingOrUnreadableFile) {
     EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
 }
 
-TEST_F(Lifecycle, OpeningSwitchesToTheFilesModeAndResetsUndo) {
+TEST_F(Lifecycle, OpeningAFileOrSwitchingImagesResetsUndo) {
     Start();
+    editor.Set().AddIcon(15, 15, 32);
     Draw({1, 1});
+    EXPECT_TRUE(editor.UndoEnabled());
+    editor.SelectImage(1);
+    EXPECT_FALSE(editor.UndoEnabled());
+    Draw({1, 1});
+    editor.Undo();
     const std::string cursor = f.PathFor("arrow.cur");
     f.documents.Put(cursor, test::SolidSet(32, 32, 0));
     f.presenter.answer = MessageAnswer::No;
@@ -239,7 +231,7 @@ TEST_F(Lifecycle, OpeningSwitchesToTheFilesModeAndResetsUndo) {
     EXPECT_FALSE(editor.RepeatEnabled());
 }
 
-TEST_F(Lifecycle, NewCursorAndAnimatedCursorShowTheirHints) {
+TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     Start();
     ASSERT_TRUE(editor.NewCursor());
     EXPECT_EQ(editor.Set().mode, FileMode::CUR);
@@ -249,37 +241,19 @@ TEST_F(Lifecycle, NewCursorAndAnimatedCursorShowTheirHints) {
     EXPECT_EQ(editor.Set().mode, FileMode::ANI);
     EXPECT_EQ(f.presenter.shown.back().key, "CreateANI");
     EXPECT_EQ(editor.Set().Count(), 1);
-}
 
-TEST_F(Lifecycle, NewFromTemplateMakesEveryFormatAndChecksAgainstIt) {
-    Start();
     const IconTemplate* classic = editor.Templates().Find("Windows Classic");
     ASSERT_NE(classic, nullptr);
     ASSERT_TRUE(editor.NewFromTemplate(*classic));
     ASSERT_EQ(editor.Set().Count(), 9);
+    EXPECT_EQ(editor.Set().mode, FileMode::ICO);
     EXPECT_EQ(editor.Set().Info(0).Width(), 48);
-    EXPECT_EQ(editor.Set().Info(2).bitCount, 4);
     EXPECT_EQ(editor.InspectorView().state, InspectorState::AllBlank);
-    const IconTemplate* app = editor.Templates().Find("Windows Application");
-    ASSERT_NE(app, nullptr);
-    ASSERT_TRUE(editor.NewFromTemplate(*app));
-    EXPECT_EQ(editor.Set().Info(0).png, 1);
-}
-
-TEST_F(Lifecycle, SwitchingImagesResetsUndo) {
-    Start();
-    editor.Set().AddIcon(15, 15, 32);
-    Draw({1, 1});
-    EXPECT_TRUE(editor.UndoEnabled());
-    editor.SelectImage(1);
-    EXPECT_FALSE(editor.UndoEnabled());
-    EXPECT_EQ(editor.CurrentImage().info.Width(), 16);
 }
 
 TEST_F(Lifecycle, ShutdownWritesTheStores) {
     Start();
     editor.State().PixelSize = 7;
-    editor.State().FitInWindow = false;
     editor.Shutdown();
     XmlStore written;
     written.Load(f.folders.dataFolder / "settings.xml");

@@ -3,11 +3,9 @@
 // kept in memory, with a file on disk so existence checks see it), the main window, and a
 // random source with a known sequence.
 
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,45 +19,42 @@
 
 namespace iw::test {
 
-inline IconSet CopySet(const IconSet& from) {
-    IconSet to;
-    for (int i = 0; i < from.Count(); ++i)
-        to.InsertIcon(to.Count(), from.Image(i).Clone());
-    to.mode = from.mode;
-    to.properties = from.properties;
-    to.animation = from.animation;
-    return to;
-}
-
 class FakeDocumentStore : public IDocumentStore {
   public:
     bool Read(const std::string& path, IconSet& set, CoreContext&) override {
-        reads.push_back(path);
         auto it = files.find(path);
         if (it == files.end()) return false;
-        set = CopySet(it->second);
+        set = Copy(it->second);
         set.mode = FileModeFromPath(path);
         return true;
     }
     bool Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
                CoreContext&) override {
-        const FileMode mode = how.mode;
         writes.push_back(path);
         if (failWrites) return false;
-        files[path] = CopySet(set);
-        files[path].mode = mode;
-        std::ofstream(path) << "icon";
+        Put(path, set);
+        files[path].mode = how.mode;
         return true;
     }
     // Puts a set "on disk" at `path`.
     void Put(const std::string& path, const IconSet& set) {
-        files[path] = CopySet(set);
+        files[path] = Copy(set);
         std::ofstream(path) << "icon";
     }
     std::map<std::string, IconSet> files;
-    std::vector<std::string> reads;
     std::vector<std::string> writes;
     bool failWrites = false;
+
+  private:
+    static IconSet Copy(const IconSet& from) {
+        IconSet to;
+        for (int i = 0; i < from.Count(); ++i)
+            to.InsertIcon(to.Count(), from.Image(i).Clone());
+        to.mode = from.mode;
+        to.properties = from.properties;
+        to.animation = from.animation;
+        return to;
+    }
 };
 
 class FakeView : public IMainWindowView {
@@ -67,11 +62,7 @@ class FakeView : public IMainWindowView {
     void SetCaption(const std::string& text) override { caption = text; }
     void ApplyUseFont(bool use) override { useFont = use; }
     void ShowSplash() override { ++splashes; }
-    void RestoreWindow(const WindowSettings& window) override {
-        restoredMaximised = window.Maximised();
-        restoredWidth = window.widthTwips;
-        restoredHeight = window.heightTwips;
-    }
+    void RestoreWindow(const WindowSettings& window) override { restored = window; }
     void ShowLogList() override { logShown = true; }
     void ShowEditRequest(const std::string& text) override { editRequestText = text; }
     std::optional<std::string> ChooseSavePath(FileMode, const std::string&) override {
@@ -81,12 +72,10 @@ class FakeView : public IMainWindowView {
     std::string caption;
     std::optional<bool> useFont;
     int splashes = 0;
-    std::optional<bool> restoredMaximised;
-    int restoredWidth = 0;
-    int restoredHeight = 0;
+    std::optional<WindowSettings> restored;
     bool logShown = false;
     std::string editRequestText;
-    std::optional<std::string> savePath;
+    std::optional<std::string> savePath;  // what the Save As dialog answers
     int savePathRequests = 0;
 };
 
@@ -98,11 +87,7 @@ class ScriptedRandom : public IRandomSource {
         next_ = 0;
         ++reseeds;
     }
-    double NextUnit() override {
-        const double v = values_[next_ % values_.size()];
-        ++next_;
-        return v;
-    }
+    double NextUnit() override { return values_[next_++ % values_.size()]; }
     int reseeds = 0;
 
   private:
@@ -117,7 +102,6 @@ struct BasicEditorFixture {
     BasicEditorFixture() {
         setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
         folders.dataFolder = temp / "data";
-        std::filesystem::create_directories(folders.dataFolder);
         folders.programTemplates = TestDataPath("../../data/Templates");
         folders.userTemplates = temp / "data" / "Templates";
         std::filesystem::create_directories(folders.userTemplates);

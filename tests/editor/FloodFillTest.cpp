@@ -22,6 +22,7 @@ IconImage Filled(int width, int height, int bits, PackedColor color, int alpha) 
 
 constexpr PackedColor kRed = PackColor(255, 0, 0);
 constexpr PackedColor kBlue = PackColor(0, 0, 255);
+constexpr PackedColor kGreen = PackColor(0, 255, 0);
 
 TEST(FloodFill, FillsTheWholeUniformImageButNothingBeyondIt) {
     IconImage image = Filled(20, 12, 32, kRed, 255);
@@ -30,9 +31,12 @@ TEST(FloodFill, FillsTheWholeUniformImageButNothingBeyondIt) {
     EXPECT_EQ(image.Alpha(19, 11), 128);
     EXPECT_EQ(image.Color(20, 0), 0);  // store cells beyond the image stay untouched
     EXPECT_EQ(image.Color(0, 12), 0);
+    // Filling with the colour already there ends too.
+    IconImage large = Filled(256, 256, 32, kRed, 255);
+    EXPECT_EQ(FloodFill(large, 128, 128, kRed, 255), 256 * 256);
 }
 
-TEST(FloodFill, DoesNotCrossIntoTheSameColourWithAnotherAlpha) {
+TEST(FloodFill, MatchesAlphaOnlyIn32BitImages) {
     IconImage image = Filled(10, 10, 32, kRed, 255);
     for (int y = 0; y < 10; ++y)
         image.Alpha(5, y) = 254;  // a wall of the same colour, one step less opaque
@@ -40,55 +44,36 @@ TEST(FloodFill, DoesNotCrossIntoTheSameColourWithAnotherAlpha) {
     EXPECT_EQ(image.Color(4, 9), kBlue);
     EXPECT_EQ(image.Color(5, 0), kRed);
     EXPECT_EQ(image.Color(6, 0), kRed);
+    // Plane 1 means nothing at 24 bits.
+    IconImage flat = Filled(10, 10, 24, kRed, 255);
+    flat.Alpha(3, 3) = 0;
+    EXPECT_EQ(FloodFill(flat, 0, 0, kBlue, 0), 100);
 }
 
-TEST(FloodFill, IgnoresThePlaneOneLeftoversOfImagesWithoutAlpha) {
-    IconImage image = Filled(10, 10, 24, kRed, 255);
-    image.Alpha(3, 3) = 0;
-    EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 0), 100);
-}
-
-TEST(FloodFill, IsFourConnected) {
+TEST(FloodFill, IsFourConnectedAndFollowsWindingPaths) {
     IconImage image = Filled(8, 8, 32, kRed, 255);
-    // A diagonal line of blue splits the image; red on both sides only touches at corners.
-    for (int i = 0; i < 8; ++i)
+    for (int i = 0; i < 8; ++i)  // a blue diagonal: the red halves touch only at corners
         image.Color(i, i) = kBlue;
-    const int painted = FloodFill(image, 7, 0, PackColor(0, 255, 0), 255);
-    EXPECT_EQ(painted, 28);  // the cells above the diagonal
+    EXPECT_EQ(FloodFill(image, 7, 0, kGreen, 255), 28);
     EXPECT_EQ(image.Color(0, 7), kRed);
-}
 
-TEST(FloodFill, FollowsWindingPaths) {
-    // A spiral-like comb: columns of red joined alternately at the top and the bottom.
-    IconImage image = Filled(9, 9, 32, kBlue, 255);
+    // A comb: columns of red joined alternately at the bottom and the top.
+    IconImage comb = Filled(9, 9, 32, kBlue, 255);
     for (int x = 0; x < 9; x += 2) {
         for (int y = 1; y < 8; ++y)
-            image.Color(x, y) = kRed;
+            comb.Color(x, y) = kRed;
     }
     for (int x = 0; x + 2 < 9; x += 2)
-        image.Color(x + 1, (x / 2) % 2 == 0 ? 7 : 1) = kRed;
-    image.Color(0, 0) = kBlue;
-    const int painted = FloodFill(image, 0, 1, PackColor(0, 255, 0), 255);
-    EXPECT_EQ(painted, 5 * 7 + 4);
-    EXPECT_EQ(image.Color(8, 1), PackColor(0, 255, 0));
+        comb.Color(x + 1, (x / 2) % 2 == 0 ? 7 : 1) = kRed;
+    EXPECT_EQ(FloodFill(comb, 0, 1, kGreen, 255), 5 * 7 + 4);
+    EXPECT_EQ(comb.Color(8, 1), kGreen);
 }
 
-TEST(FloodFill, APointOutsideTheImagePaintsNothing) {
-    IconImage image = Filled(10, 10, 32, kRed, 255);
-    EXPECT_EQ(FloodFill(image, -1, 0, kBlue, 255), 0);
-    EXPECT_EQ(FloodFill(image, 10, 0, kBlue, 255), 0);
-    EXPECT_TRUE(FloodRegion(image, 0, 10).empty());
-    EXPECT_EQ(image.Color(0, 0), kRed);
-}
-
-TEST(FloodFill, FillingWithTheSameColourEnds) {
-    IconImage image = Filled(256, 256, 32, kRed, 255);
-    EXPECT_EQ(FloodFill(image, 128, 128, kRed, 255), 256 * 256);
-}
-
-TEST(FloodFill, MatchesMarkerPixels) {
+TEST(FloodFill, MatchesMarkersAndIgnoresPointsOutside) {
     IconImage image = Filled(6, 6, 8, TransparentColor, 0);
     image.Color(2, 2) = kRed;
+    EXPECT_EQ(FloodFill(image, -1, 0, kBlue, 255), 0);
+    EXPECT_EQ(FloodFill(image, 6, 0, kBlue, 255), 0);
     EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 255), 35);
     EXPECT_EQ(image.Color(2, 2), kRed);
 }

@@ -1,82 +1,71 @@
 // Settings defaults and bad values, and the recent-files orders.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "editor/EditorSettings.h"
 #include "editor/RecentFiles.h"
 
 namespace iw {
 namespace {
 
-TEST(Settings, AnEmptyStoreGivesEveryDefault) {
-    XmlStore store;
+// Every value the two loaders read, in one line.
+std::string Describe(const EditorState& s, const WindowSettings& w) {
+    std::ostringstream out;
+    out << "grid " << s.ShowGrid << ", size " << s.PixelSize << ", fit " << s.FitInWindow
+        << ", preview " << static_cast<int>(w.previewBackground) << ", inspector "
+        << w.showInspector << ", state " << w.windowState << ", " << w.widthTwips << " x "
+        << w.heightTwips << ", splash " << w.splash << ", font " << w.useFont << ", startup "
+        << w.startup << ", blank " << w.blankIcon;
+    return out.str();
+}
+
+// Loads `store` over a state and window that hold anything but the defaults.
+std::string Load(const XmlStore& store) {
     EditorState state;
     state.ShowGrid = true;
     state.PixelSize = 5;
     state.FitInWindow = false;
-    WindowSettings window;
-    window.showInspector = false;
-    window.previewBackground = PreviewBackground::White;
+    WindowSettings window{0, 1, 1, PreviewBackground::White, false, true, false, 3, 2};
     LoadSettings(store, state, window);
     LoadStartupSettings(store, window);
-    EXPECT_FALSE(state.ShowGrid);
-    EXPECT_EQ(state.PixelSize, 32);
-    EXPECT_TRUE(state.FitInWindow);
-    EXPECT_EQ(window.previewBackground, PreviewBackground::Grid);
-    EXPECT_TRUE(window.showInspector);
-    EXPECT_TRUE(window.Maximised());
-    EXPECT_EQ(window.widthTwips, 8000);
-    EXPECT_EQ(window.heightTwips, 8000);
-    EXPECT_TRUE(window.splash);
-    EXPECT_FALSE(window.useFont);
-    EXPECT_EQ(window.startup, 0);
-    EXPECT_EQ(window.blankIcon, 0);
+    return Describe(state, window);
+}
+
+std::string Load(const std::vector<std::pair<std::string, std::string>>& values) {
+    XmlStore store;
+    for (const auto& [key, value] : values)
+        store.SetValue("Settings\\" + key, value);
+    return Load(store);
+}
+
+TEST(Settings, AnEmptyStoreOrBadValuesGiveTheDefaults) {
+    const std::string defaults =
+        "grid 0, size 32, fit 1, preview 0, inspector 1, state 2, 8000 x 8000, splash 1, font "
+        "0, startup 0, blank 0";
+    EXPECT_EQ(Load(XmlStore{}), defaults);
+    EXPECT_EQ(Load({{"Grid", "perhaps"},
+                    {"FitInWindow", "x"},
+                    {"PreviewBackground", "7"},
+                    {"ShowInspector", "?"},
+                    {"State", "maximised"},
+                    {"Width", "-50"},
+                    {"Height", "99999999999"},
+                    {"Startup", "1.5"}}),
+              defaults);
+    // State 0 restores the window at the default size when none was saved.
+    EXPECT_EQ(Load({{"State", "0"}, {"Grid", "True"}, {"FitInWindow", "0"}}),
+              "grid 1, size 32, fit 0, preview 0, inspector 1, state 0, 8000 x 8000, splash 1, "
+              "font 0, startup 0, blank 0");
 }
 
 TEST(Settings, PixelsizeThatIsNotNumericOrTooLargeReadsAs48) {
-    EXPECT_EQ(ParsePixelSize("12"), 12);
-    EXPECT_EQ(ParsePixelSize("48"), 48);
-    EXPECT_EQ(ParsePixelSize("49"), 48);
-    EXPECT_EQ(ParsePixelSize("100000"), 48);
-    EXPECT_EQ(ParsePixelSize("big"), 48);
-    EXPECT_EQ(ParsePixelSize(""), 48);
-    EXPECT_EQ(ParsePixelSize("12.5"), 12);
-    EXPECT_EQ(ParsePixelSize("0"), 1);
-    EXPECT_EQ(ParsePixelSize("-7"), 1);
-}
-
-TEST(Settings, BadValuesGiveDefaults) {
-    XmlStore store;
-    store.SetValue("Settings\\Grid", "perhaps");
-    store.SetValue("Settings\\FitInWindow", "0");
-    store.SetValue("Settings\\PreviewBackground", "7");
-    store.SetValue("Settings\\ShowInspector", "0");
-    store.SetValue("Settings\\State", "maximised");
-    store.SetValue("Settings\\Width", "-50");
-    store.SetValue("Settings\\Height", "99999999999");
-    store.SetValue("Settings\\Startup", "1.5");
-    EditorState state;
-    WindowSettings window;
-    LoadSettings(store, state, window);
-    LoadStartupSettings(store, window);
-    EXPECT_FALSE(state.ShowGrid);
-    EXPECT_FALSE(state.FitInWindow);
-    EXPECT_EQ(window.previewBackground, PreviewBackground::Grid);
-    EXPECT_FALSE(window.showInspector);
-    EXPECT_TRUE(window.Maximised());
-    EXPECT_EQ(window.widthTwips, 8000);
-    EXPECT_EQ(window.heightTwips, 8000);
-    EXPECT_EQ(window.startup, 0);
-}
-
-TEST(Settings, StateZeroRestoresTheDefaultSizeWhenNoneWasSaved) {
-    XmlStore store;
-    store.SetValue("Settings\\State", "0");
-    WindowSettings window;
-    LoadStartupSettings(store, window);
-    EXPECT_FALSE(window.Maximised());
-    EXPECT_EQ(window.widthTwips, 8000);
-    EXPECT_EQ(window.heightTwips, 8000);
-    EXPECT_EQ(TwipsToPixels(8000), 533);
+    const std::pair<const char*, int> cases[] = {{"12", 12},     {"48", 48},  {"49", 48},
+                                                 {"100000", 48}, {"big", 48}, {"", 48},
+                                                 {"12.5", 12},   {"0", 1},    {"-7", 1}};
+    for (const auto& [text, size] : cases)
+        EXPECT_EQ(ParsePixelSize(text), size) << text;
+    EXPECT_EQ(Load({{"Pixelsize", "x"}}).substr(0, 16), "grid 0, size 48,");
 }
 
 TEST(Settings, SaveWritesEveryKeyAndLoadsBack) {
@@ -85,54 +74,24 @@ TEST(Settings, SaveWritesEveryKeyAndLoadsBack) {
     state.ShowGrid = true;
     state.PixelSize = 17;
     state.FitInWindow = false;
-    WindowSettings window;
-    window.windowState = 0;
-    window.widthTwips = 9000;
-    window.heightTwips = 7000;
-    window.previewBackground = PreviewBackground::Transparent;
-    window.showInspector = false;
+    const WindowSettings window{0, 9000, 7000, PreviewBackground::Transparent, false};
     SaveSettings(store, state, window);
-    EXPECT_EQ(store.GetValue("Settings\\State", ""), "0");
-    EXPECT_EQ(store.GetValue("Settings\\Width", ""), "9000");
-    EXPECT_EQ(store.GetValue("Settings\\Height", ""), "7000");
     EXPECT_EQ(store.GetValue("Settings\\Grid", ""), "True");
     EXPECT_EQ(store.GetValue("Settings\\FitInWindow", ""), "False");
-    EXPECT_EQ(store.GetValue("Settings\\PreviewBackground", ""), "2");
     EXPECT_EQ(store.GetValue("Settings\\ShowInspector", ""), "0");
-    EXPECT_EQ(store.GetValue("Settings\\Pixelsize", ""), "17");
-
-    EditorState loaded;
-    WindowSettings loadedWindow;
-    LoadSettings(store, loaded, loadedWindow);
-    LoadStartupSettings(store, loadedWindow);
-    EXPECT_TRUE(loaded.ShowGrid);
-    EXPECT_EQ(loaded.PixelSize, 17);
-    EXPECT_FALSE(loaded.FitInWindow);
-    EXPECT_EQ(loadedWindow.previewBackground, PreviewBackground::Transparent);
-    EXPECT_FALSE(loadedWindow.showInspector);
-    EXPECT_EQ(loadedWindow.widthTwips, 9000);
-}
-
-void Fill(XmlStore& store) {
-    for (const char* path : {"a", "b", "c", "d"})
-        AddRecentFile(store, path);  // leaves d, c, b, a
+    EXPECT_EQ(Load(store),
+              "grid 1, size 17, fit 0, preview 2, inspector 0, state 0, 9000 x 7000, splash 1, "
+              "font 0, startup 0, blank 0");
 }
 
 using Files = std::array<std::string, 4>;
 
-TEST(RecentFiles, StartAsNAAndAddToTheTop) {
+TEST(RecentFiles, ReorderExactlyByWhichEntryIsOpened) {
     XmlStore store;
     EXPECT_EQ(RecentFiles(store), (Files{"NA", "NA", "NA", "NA"}));
     EXPECT_TRUE(LoadRecentList(store).empty());
-    AddRecentFile(store, "one");
-    EXPECT_EQ(RecentFiles(store), (Files{"one", "NA", "NA", "NA"}));
-    ASSERT_EQ(LoadRecentList(store).size(), 1u);
-    EXPECT_EQ(LoadRecentList(store)[0].path, "one");
-}
-
-TEST(RecentFiles, ReorderExactlyByWhichEntryIsOpened) {
-    XmlStore store;
-    Fill(store);
+    for (const char* path : {"a", "b", "c", "d"})
+        AddRecentFile(store, path);
     ASSERT_EQ(RecentFiles(store), (Files{"d", "c", "b", "a"}));
     AddRecentFile(store, "d");
     EXPECT_EQ(RecentFiles(store), (Files{"d", "c", "b", "a"}));
@@ -144,15 +103,14 @@ TEST(RecentFiles, ReorderExactlyByWhichEntryIsOpened) {
     EXPECT_EQ(RecentFiles(store), (Files{"new", "b", "c", "d"}));
     AddRecentFile(store, "d");  // entry 4 again: everything moves down
     EXPECT_EQ(RecentFiles(store), (Files{"d", "new", "b", "c"}));
-}
-
-TEST(RecentFiles, MenuItemsTwoToFourMoveTheirEntryUpFirst) {
-    XmlStore store;
-    Fill(store);
+    // Menu items 2 to 4 move their entry up first, then open entry 1.
     EXPECT_EQ(MoveRecentFileToTop(store, 3), "b");
-    EXPECT_EQ(RecentFiles(store), (Files{"b", "d", "c", "a"}));
-    EXPECT_EQ(MoveRecentFileToTop(store, 4), "a");
-    EXPECT_EQ(RecentFiles(store), (Files{"a", "b", "d", "c"}));
+    EXPECT_EQ(RecentFiles(store), (Files{"b", "d", "new", "c"}));
+    EXPECT_EQ(MoveRecentFileToTop(store, 4), "c");
+    EXPECT_EQ(RecentFiles(store), (Files{"c", "b", "d", "new"}));
+    ASSERT_EQ(LoadRecentList(store).size(), 4u);
+    EXPECT_EQ(LoadRecentList(store)[3].path, "new");
+
     XmlStore sparse;
     AddRecentFile(sparse, "x");
     EXPECT_EQ(MoveRecentFileToTop(sparse, 3), "NA");

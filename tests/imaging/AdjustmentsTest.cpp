@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "SyntheticImages.h"
@@ -14,235 +15,132 @@
 namespace iw {
 namespace {
 
-// A one-row image of the given colours, 32 bits, alpha 255 unless given.
-IconImage RowImage(const std::vector<PackedColor>& colors, int bitCount = 32) {
+using enum AdjustChannel;
+using Pass = void (*)(IconImage&, int, AdjustChannel);
+constexpr AdjustChannel kEveryChannel[] = {All, Red, Green, Blue, Alpha};
+
+bool SamePlanes(const IconImage& a, const IconImage& b) {
+    return std::ranges::equal(a.PlaneCells(0), b.PlaneCells(0)) &&
+           std::ranges::equal(a.PlaneCells(1), b.PlaneCells(1));
+}
+
+// The colours of a one-row image after `pass`, and the first pixel's alpha (the others 255).
+using Result = std::pair<std::vector<PackedColor>, int>;
+Result Adjust(Pass pass, int value, AdjustChannel channel, const std::vector<PackedColor>& colors,
+              int alpha = 255, int bitCount = 32) {
     IconImage image;
-    test::ShapeImage(image, static_cast<int>(colors.size()), 1, bitCount);
-    for (int x = 0; x < static_cast<int>(colors.size()); ++x) {
+    const int width = static_cast<int>(colors.size());
+    test::ShapeImage(image, width, 1, bitCount);
+    for (int x = 0; x < width; ++x) {
         image.Color(x, 0) = colors[static_cast<std::size_t>(x)];
-        image.Alpha(x, 0) = 255;
+        image.Alpha(x, 0) = x == 0 ? alpha : 255;
     }
+    pass(image, value, channel);
+    Result result{{}, image.Alpha(0, 0)};
+    for (int x = 0; x < width; ++x)
+        result.first.push_back(image.Color(x, 0));
+    return result;
+}
+
+TEST(Adjustments, FollowTheHandWorkedCases) {
+    const PackedColor c = PackColor(10, 200, 250);
+    EXPECT_EQ(Adjust(DoBrightness, 100, All, {c}), Result({0xFFFFFF}, 255));
+    EXPECT_EQ(Adjust(DoBrightness, 0, All, {c}), Result({0}, 255));
+    EXPECT_EQ(Adjust(DoBrightness, 52, Green, {c}), Result({PackColor(10, 210, 250)}, 255));
+    EXPECT_EQ(Adjust(DoBrightness, 40, Alpha, {c}, 100), Result({c}, 50));
+    // Mapped to the depth after the change: (193, 65, 65) is red, a sum of 395 is white.
+    EXPECT_EQ(Adjust(DoBrightness, 63, All, {PackColor(128, 0, 0)}, 255, 4),
+              Result({PackColor(255, 0, 0)}, 255));
+    EXPECT_EQ(Adjust(DoBrightness, 51, All, {PackColor(120, 120, 140)}, 255, 1),
+              Result({0xFFFFFF}, 255));
+    // Gamma 0 is held at 0.01 (exponent 100); gamma 100 is a square root.
+    EXPECT_EQ(Adjust(DoGamma, 0, All, {PackColor(239, 245, 254), PackColor(255, 0, 100)}).first,
+              (std::vector{PackColor(0, 5, 172), PackColor(255, 0, 0)}));
+    EXPECT_EQ(Adjust(DoGamma, 100, Blue, {PackColor(64, 64, 64)}).first,
+              std::vector{PackColor(64, 64, 128)});
+    // Mean 128, factor 2: (372, 372, -108) spreads to (255, 255, 120), not a plain clamp.
+    EXPECT_EQ(Adjust(DoContrast, 100, All, {PackColor(250, 250, 10), PackColor(86, 86, 86)}).first,
+              (std::vector{PackColor(255, 255, 120), PackColor(44, 44, 44)}));
+    // Mean 100, factor 1.02f = 1.0199999809: 125 -> 125.4999995 and 75 -> 74.5000005.
+    const std::vector<PackedColor> greys = {PackColor(125, 125, 125), PackColor(75, 75, 75)};
+    EXPECT_EQ(Adjust(DoContrast, 51, All, greys).first, greys);
+    // The marker counts as (248, 255, 255), grey 252: mean 117, so 100 -> 83 (not 150).
+    EXPECT_EQ(Adjust(DoContrast, 100, All, {TransparentColor, 0, PackColor(100, 100, 100)}).first,
+              (std::vector{TransparentColor, 0, PackColor(83, 83, 83)}));
+    // Alone, the pixel is the mean 120; at 75 the factor is 1.5.
+    const PackedColor p = PackColor(100, 120, 140);
+    EXPECT_EQ(Adjust(DoContrast, 75, All, {p}, 200), Result({PackColor(90, 120, 150)}, 200));
+    EXPECT_EQ(Adjust(DoContrast, 75, Red, {p}, 200), Result({PackColor(90, 120, 140)}, 200));
+    EXPECT_EQ(Adjust(DoContrast, 75, Green, {p}, 200), Result({p}, 200));
+    EXPECT_EQ(Adjust(DoContrast, 75, Blue, {p}, 200), Result({PackColor(140, 120, 150)}, 200));
+    EXPECT_EQ(Adjust(DoContrast, 75, Alpha, {p}, 200), Result({p}, 240));
+    // Saturation keeps single channels as contrast does, the blue crossover included.
+    const PackedColor s = PackColor(100, 150, 200);
+    EXPECT_EQ(Adjust(DoSat, 0, All, {s}).first, std::vector{PackColor(150, 150, 150)});
+    EXPECT_EQ(Adjust(DoSat, 100, All, {s}).first, std::vector{PackColor(50, 150, 250)});
+    EXPECT_EQ(Adjust(DoSat, 100, Blue, {s}).first, std::vector{PackColor(200, 150, 250)});
+    EXPECT_EQ(Adjust(DoSat, 100, Red, {s}).first, std::vector{PackColor(50, 150, 200)});
+}
+
+TEST(Adjustments, SaturationMatchesTheFormulaForEverySliderValue) {
+    // round(c + (c - y) x f), f = (value / 100 x 200 - 100) / 100 in single precision,
+    // y = (r + g + b) / 3, clamped to 0..255.
+    test::Lcg random{3};
+    std::vector<PackedColor> colors(256);
+    for (int round = 0; round < 8; ++round) {
+        for (PackedColor& c : colors)
+            c = static_cast<PackedColor>(random.Next() & 0xFFFFFF);
+        for (int value = 0; value <= 100; ++value) {
+            const std::vector<PackedColor> got = Adjust(DoSat, value, All, colors).first;
+            const auto f = static_cast<double>(static_cast<float>((value * 2.0 - 100.0) / 100.0));
+            for (std::size_t k = 0; k < colors.size(); ++k) {
+                const PackedColor c = colors[k];
+                const int grey = (RedOf(c) + GreenOf(c) + BlueOf(c)) / 3;
+                auto expect = [&](int ch) {
+                    return std::clamp(RoundHalfEven(ch + (ch - grey) * f), 0, 255);
+                };
+                ASSERT_EQ(got[k],
+                          PackColor(expect(RedOf(c)), expect(GreenOf(c)), expect(BlueOf(c))))
+                    << "value " << value << ", colour " << std::hex << c;
+            }
+        }
+    }
+}
+
+TEST(Adjustments, NeverTouchMarkersAndKeepLowDepthImagesInTheirPalettes) {
+    test::Lcg random{9};
+    std::vector<PackedColor> colors = {TransparentColor, InverseColor};
+    while (colors.size() < 256)
+        colors.push_back(static_cast<PackedColor>(random.Next() & 0xFFFFFF));
+    for (const Pass pass : {DoBrightness, DoContrast, DoGamma, DoSat}) {
+        for (const AdjustChannel channel : kEveryChannel) {
+            for (const int bitCount : {32, 4, 1}) {
+                const auto [out, alpha] = Adjust(pass, 80, channel, colors, 17, bitCount);
+                EXPECT_EQ(out[0], TransparentColor);
+                EXPECT_EQ(alpha, 17);
+                EXPECT_EQ(out[1], InverseColor);
+                for (std::size_t k = 2; k < out.size() && bitCount != 32; ++k) {
+                    ASSERT_TRUE(bitCount == 4 ? IsStandard16Color(out[k])
+                                              : (out[k] == 0 || out[k] == 0xFFFFFF))
+                        << std::hex << out[k];
+                }
+            }
+        }
+    }
+}
+
+IconImage Photo() {
+    IconImage image;
+    test::ShapeImage(image, 47, 33, 32);
+    test::FillPhotoLike(image, 21);
+    image.Alpha(6, 6) = 90;
+    image.originalPng = {1, 2, 3};
     return image;
 }
 
-bool SamePlanes(const IconImage& a, const IconImage& b) {
-    for (int y = 0; y < a.info.Height(); ++y) {
-        for (int x = 0; x < a.info.Width(); ++x) {
-            if (a.Color(x, y) != b.Color(x, y) || a.Alpha(x, y) != b.Alpha(x, y)) return false;
-        }
-    }
-    return true;
-}
-
-constexpr AdjustChannel kEveryChannel[] = {AdjustChannel::All, AdjustChannel::Red,
-                                           AdjustChannel::Green, AdjustChannel::Blue,
-                                           AdjustChannel::Alpha};
-
-TEST(DoBrightness, MovesFiveLevelsPerStepAndClamps) {
-    IconImage image = RowImage({PackColor(10, 200, 250)});
-    DoBrightness(image, 100, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(255, 255, 255));
-
-    image = RowImage({PackColor(10, 200, 250)});
-    DoBrightness(image, 0, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(0, 0, 0));
-
-    image = RowImage({PackColor(10, 200, 250)});
-    DoBrightness(image, 52, AdjustChannel::Green);
-    EXPECT_EQ(image.Color(0, 0), PackColor(10, 210, 250));
-    EXPECT_EQ(image.Alpha(0, 0), 255);
-
-    image = RowImage({PackColor(10, 200, 250)});
-    image.Alpha(0, 0) = 100;
-    DoBrightness(image, 40, AdjustChannel::Alpha);
-    EXPECT_EQ(image.Alpha(0, 0), 50);
-    EXPECT_EQ(image.Color(0, 0), PackColor(10, 200, 250));
-}
-
-TEST(DoGamma, HoldsGammaZeroAtOneHundredth) {
-    IconImage image = RowImage({PackColor(239, 245, 254), PackColor(255, 0, 100)});
-    DoGamma(image, 0, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(0, 5, 172));
-    EXPECT_EQ(image.Color(1, 0), PackColor(255, 0, 0));
-}
-
-TEST(DoGamma, BrightensWithASquareRootAtOneHundred) {
-    // G = 2: 255 x sqrt(64 / 255) = 127.75 -> 128; only blue is selected.
-    IconImage image = RowImage({PackColor(64, 64, 64)});
-    DoGamma(image, 100, AdjustChannel::Blue);
-    EXPECT_EQ(image.Color(0, 0), PackColor(64, 64, 128));
-}
-
-TEST(DoContrast, SpreadsOverflowToTheOtherChannelsInsteadOfClamping) {
-    // Grey levels 170 and 86: the mean is 128. At 100 the factor is 2, so (250, 250, 10)
-    // becomes (372, 372, -108). Worked by hand, the spreading settles at (255, 255, 120),
-    // where a plain clamp would give (255, 255, 0).
-    IconImage image = RowImage({PackColor(250, 250, 10), PackColor(86, 86, 86)});
-    DoContrast(image, 100, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(255, 255, 120));
-    EXPECT_EQ(image.Color(1, 0), PackColor(44, 44, 44));
-}
-
-TEST(DoContrast, KeepsTheChannelThatTheOptionChooses) {
-    // One pixel, mean 120, factor 1.5: T(100) = 90, T(120) = 120, T(140) = 150, T(200) = 240.
-    const PackedColor start = PackColor(100, 120, 140);
-    auto run = [&](AdjustChannel channel) {
-        IconImage image = RowImage({start});
-        image.Alpha(0, 0) = 200;
-        DoContrast(image, 75, channel);
-        return std::pair{image.Color(0, 0), image.Alpha(0, 0)};
-    };
-    EXPECT_EQ(run(AdjustChannel::All), std::pair(PackColor(90, 120, 150), 200));
-    EXPECT_EQ(run(AdjustChannel::Red), std::pair(PackColor(90, 120, 140), 200));
-    EXPECT_EQ(run(AdjustChannel::Green), std::pair(PackColor(100, 120, 140), 200));
-    // optBlue: the new blue, and red takes the previous blue.
-    EXPECT_EQ(run(AdjustChannel::Blue), std::pair(PackColor(140, 120, 150), 200));
-    EXPECT_EQ(run(AdjustChannel::Alpha), std::pair(start, 240));
-}
-
-TEST(DoContrast, HoldsTheFactorInSinglePrecision) {
-    // Mean 100. At 51 the factor is 1.02, held as 1.0199999809, so 125 -> 125.4999995 ->
-    // 125 and 75 -> 74.5000005 -> 75. In double precision both would be exact halves and
-    // go to 126 and 74.
-    IconImage image = RowImage({PackColor(125, 125, 125), PackColor(75, 75, 75)});
-    DoContrast(image, 51, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(125, 125, 125));
-    EXPECT_EQ(image.Color(1, 0), PackColor(75, 75, 75));
-}
-
-TEST(DoContrast, CountsMarkersInTheMeanAsTheirBits) {
-    // TransparentColor splits into (248, 255, 255), grey 252. Greys 252, 0 and 100 give a
-    // mean of 117, so at factor 2 the grey 100 goes to 117 - 34 = 83. Had the marker been
-    // skipped, the mean would be 50 and the grey would go to 150.
-    IconImage image = RowImage({TransparentColor, PackColor(0, 0, 0), PackColor(100, 100, 100)});
-    DoContrast(image, 100, AdjustChannel::All);
-    EXPECT_EQ(image.Color(2, 0), PackColor(83, 83, 83));
-    EXPECT_EQ(image.Color(0, 0), TransparentColor);
-}
-
-TEST(DoSat, GoesToGreyAtZeroAndDoublesAtOneHundred) {
-    IconImage image = RowImage({PackColor(100, 150, 200)});
-    DoSat(image, 0, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(150, 150, 150));
-
-    image = RowImage({PackColor(100, 150, 200)});
-    DoSat(image, 100, AdjustChannel::All);
-    EXPECT_EQ(image.Color(0, 0), PackColor(50, 150, 250));
-
-    // A single channel keeps its new value as contrast does, optBlue's crossover included.
-    image = RowImage({PackColor(100, 150, 200)});
-    DoSat(image, 100, AdjustChannel::Blue);
-    EXPECT_EQ(image.Color(0, 0), PackColor(200, 150, 250));
-    image = RowImage({PackColor(100, 150, 200)});
-    DoSat(image, 100, AdjustChannel::Red);
-    EXPECT_EQ(image.Color(0, 0), PackColor(50, 150, 200));
-}
-
-TEST(DoSat, MatchesTheFormulaForEverySliderValue) {
-    // round(c + (c - y) x f), f = (value / 100 x 200 - 100) / 100 held in single precision,
-    // y = (r + g + b) / 3, clamped to 0..255; computed here pixel by pixel.
-    IconImage source;
-    test::ShapeImage(source, 64, 64, 32);
-    test::Lcg random(3);
-    for (int y = 0; y < 64; ++y) {
-        for (int x = 0; x < 64; ++x) {
-            source.Color(x, y) = static_cast<PackedColor>(random.Next() & 0xFFFFFF);
-        }
-    }
-    for (int value = 0; value <= 100; ++value) {
-        IconImage image = source.Clone();
-        DoSat(image, value, AdjustChannel::All);
-        const float f = static_cast<float>((value / 100.0 * 200.0 - 100.0) / 100.0);
-        for (int y = 0; y < 64; ++y) {
-            for (int x = 0; x < 64; ++x) {
-                const PackedColor c = source.Color(x, y);
-                const int grey = (RedOf(c) + GreenOf(c) + BlueOf(c)) / 3;
-                auto expect = [&](int channel) {
-                    const int v =
-                        RoundHalfEven(channel + (channel - grey) * static_cast<double>(f));
-                    return v < 0 ? 0 : (v > 255 ? 255 : v);
-                };
-                ASSERT_EQ(image.Color(x, y),
-                          PackColor(expect(RedOf(c)), expect(GreenOf(c)), expect(BlueOf(c))))
-                    << "value " << value << " at " << x << "," << y;
-            }
-        }
-    }
-}
-
-TEST(Adjustments, KeepSixteenColourAndMonochromeImagesInTheirPalettes) {
-    for (const int bitCount : {4, 1}) {
-        for (const AdjustChannel channel : kEveryChannel) {
-            IconImage image;
-            test::ShapeImage(image, 32, 32, bitCount);
-            test::FillPhotoLike(image, 9);
-            for (int x = 0; x < 32; ++x) {
-                for (int y = 0; y < 32; ++y) {
-                    const PackedColor c = image.Color(x, y);
-                    image.Color(x, y) = bitCount == 4
-                                            ? kStandard16Colors[static_cast<std::size_t>(c % 16)]
-                                            : kMonoColors[static_cast<std::size_t>(c % 2)];
-                }
-            }
-            ColorAdjustments window(image);
-            window.SetChannel(channel);
-            window.SetContrast(70);
-            window.SetSaturation(80);
-            window.SetGamma(35);
-            window.SetBrightness(56);
-            for (int x = 0; x < 32; ++x) {
-                for (int y = 0; y < 32; ++y) {
-                    const PackedColor c = image.Color(x, y);
-                    if (bitCount == 4) {
-                        ASSERT_TRUE(IsStandard16Color(c)) << std::hex << c;
-                    } else {
-                        ASSERT_TRUE(c == 0 || c == 0xFFFFFF) << std::hex << c;
-                    }
-                }
-            }
-        }
-    }
-    // Brightening a 4-bit red by 5 levels lands on the 16-colour mapping of the result.
-    IconImage image = RowImage({PackColor(128, 0, 0), PackColor(0, 0, 0)}, 4);
-    DoBrightness(image, 63, AdjustChannel::All);  // +65: (193, 65, 65) and (65, 65, 65)
-    EXPECT_EQ(image.Color(0, 0), PackColor(255, 0, 0));
-    EXPECT_EQ(image.Color(1, 0), PackColor(0, 0, 0));
-    image = RowImage({PackColor(120, 120, 140)}, 1);
-    DoBrightness(image, 51, AdjustChannel::All);  // sum 380 + 15 = 395: white
-    EXPECT_EQ(image.Color(0, 0), 0xFFFFFF);
-}
-
-TEST(Adjustments, NeverTouchMarkers) {
-    for (const AdjustChannel channel : kEveryChannel) {
-        IconImage image = RowImage({TransparentColor, PackColor(30, 60, 90), InverseColor});
-        image.Alpha(0, 0) = 17;
-        image.Alpha(2, 0) = 0;
-        DoBrightness(image, 100, channel);
-        DoContrast(image, 0, channel);
-        DoGamma(image, 0, channel);
-        DoSat(image, 100, channel);
-        EXPECT_EQ(image.Color(0, 0), TransparentColor);
-        EXPECT_EQ(image.Alpha(0, 0), 17);
-        EXPECT_EQ(image.Color(2, 0), InverseColor);
-        EXPECT_EQ(image.Alpha(2, 0), 0);
-    }
-}
-
-class ColorAdjustmentsWindow : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        test::ShapeImage(image, 47, 33, 32);
-        test::FillPhotoLike(image, 21);
-        image.Color(5, 5) = TransparentColor;
-        image.Alpha(6, 6) = 90;
-        image.originalPng = {1, 2, 3};
-        original = image.Clone();
-    }
-    IconImage image;
-    IconImage original;
-};
-
-TEST_F(ColorAdjustmentsWindow, LeavesTheImageAloneWithEverySliderAtFifty) {
+TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFromTheBackup) {
+    IconImage image = Photo();
+    const IconImage original = image.Clone();
     ColorAdjustments window(image);
     int redraws = 0;
     window.onImageChanged = [&] { ++redraws; };
@@ -252,51 +150,44 @@ TEST_F(ColorAdjustmentsWindow, LeavesTheImageAloneWithEverySliderAtFifty) {
     EXPECT_TRUE(SamePlanes(image, original));
     EXPECT_EQ(image.originalPng, original.originalPng);
     EXPECT_EQ(redraws, 6);
-}
 
-TEST_F(ColorAdjustmentsWindow, RecomputesFromTheBackupInTheFixedOrder) {
-    ColorAdjustments window(image);
     window.SetBrightness(60);
     window.SetBrightness(60);
     window.SetGamma(40);
     window.SetSaturation(30);
     window.SetContrast(65);
-    window.SetChannel(AdjustChannel::Green);
-
-    IconImage expected = original.Clone();
-    DoContrast(expected, 65, AdjustChannel::Green);
-    DoSat(expected, 30, AdjustChannel::Green);
-    DoGamma(expected, 40, AdjustChannel::Green);
-    DoBrightness(expected, 60, AdjustChannel::Green);
+    window.SetChannel(Green);
+    IconImage expected = original.Clone();  // in the fixed order, once each
+    DoContrast(expected, 65, Green);
+    DoSat(expected, 30, Green);
+    DoGamma(expected, 40, Green);
+    DoBrightness(expected, 60, Green);
     EXPECT_TRUE(SamePlanes(image, expected));
     EXPECT_FALSE(SamePlanes(image, original));
-    // The pixels changed, so the PNG stream read with them no longer applies.
-    EXPECT_TRUE(image.originalPng.empty());
+    EXPECT_TRUE(image.originalPng.empty());  // the stream read with the pixels no longer applies
 }
 
-TEST_F(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
+TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
+    IconImage image = Photo();
+    const IconImage original = image.Clone();
     {
         ColorAdjustments window(image);
-        window.SetChannel(AdjustChannel::Alpha);
+        window.SetChannel(Alpha);
         window.SetBrightness(20);
-        window.SetChannel(AdjustChannel::All);
-        ASSERT_FALSE(SamePlanes(image, original));
+        window.SetChannel(All);
         window.Cancel();
         EXPECT_TRUE(SamePlanes(image, original));
         EXPECT_EQ(image.originalPng, original.originalPng);
-        EXPECT_FALSE(window.IsOpen());
         window.SetBrightness(90);  // closed: nothing happens
         EXPECT_TRUE(SamePlanes(image, original));
     }
-    {
-        ColorAdjustments window(image);
-        window.SetContrast(80);
-        IconImage adjusted = image.Clone();
-        window.Ok();
-        window.Cancel();
-        EXPECT_TRUE(SamePlanes(image, adjusted));
-        EXPECT_FALSE(SamePlanes(image, original));
-    }
+    ColorAdjustments window(image);
+    window.SetContrast(80);
+    const IconImage adjusted = image.Clone();
+    window.Ok();
+    window.Cancel();
+    EXPECT_TRUE(SamePlanes(image, adjusted));
+    EXPECT_FALSE(SamePlanes(image, original));
 }
 
 }  // namespace

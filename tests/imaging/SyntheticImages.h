@@ -2,7 +2,6 @@
 // Deterministic test pictures for the imaging tests and benchmarks (header only, so the
 // benchmarks can use it too).
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -11,20 +10,12 @@
 namespace iw::test {
 
 // A small fixed pseudo-random sequence (LCG), the same on every platform.
-class Lcg {
-  public:
-    explicit Lcg(std::uint32_t seed) : state_(seed) {}
+struct Lcg {
+    std::uint32_t state;
     std::uint32_t Next() {
-        state_ = state_ * 1664525u + 1013904223u;
-        return state_ >> 8;
+        state = state * 1664525u + 1013904223u;
+        return state >> 8;
     }
-    // -amplitude .. amplitude
-    int Spread(int amplitude) {
-        return static_cast<int>(Next() % static_cast<std::uint32_t>(2 * amplitude + 1)) - amplitude;
-    }
-
-  private:
-    std::uint32_t state_;
 };
 
 // Makes `image` width x height with the given bit count and clears its planes.
@@ -35,15 +26,12 @@ inline void ShapeImage(IconImage& image, int width, int height, int bitCount) {
     image.info.bitCount = static_cast<std::int16_t>(bitCount);
 }
 
-// Smooth shading in three overlapping waves plus fine grain, like a photograph: tens of
-// thousands of colours at 256 x 256. Channels stay within low..high. Alpha is 255.
-inline void FillPhotoLike(IconImage& image, std::uint32_t seed, int grain = 6, int low = 0,
-                          int high = 255) {
-    Lcg random(seed);
+// Smooth shading in three waves plus a grain of -6..6, like a photograph: tens of
+// thousands of colours at 256 x 256. Alpha is 255.
+inline void FillPhotoLike(IconImage& image, std::uint32_t seed) {
+    Lcg random{seed};
     const int width = image.info.Width();
     const int height = image.info.Height();
-    const double mid = (low + high) / 2.0;
-    const double swing = (high - low) / 2.0 - grain;
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const double u = static_cast<double>(x) / width;
@@ -52,8 +40,8 @@ inline void FillPhotoLike(IconImage& image, std::uint32_t seed, int grain = 6, i
                                      std::sin(4.3 * (u + v) + 1.1 * u * v)};
             int channel[3];
             for (int k = 0; k < 3; ++k) {
-                const int value = static_cast<int>(mid + swing * waves[k]) + random.Spread(grain);
-                channel[k] = std::clamp(value, low, high);
+                const int grain = static_cast<int>(random.Next() % 13) - 6;
+                channel[k] = static_cast<int>(127.5 + 121.5 * waves[k]) + grain;
             }
             image.Color(x, y) = PackColor(channel[0], channel[1], channel[2]);
             image.Alpha(x, y) = 255;

