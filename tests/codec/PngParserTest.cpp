@@ -1,8 +1,10 @@
-// The PNG reader on hand-made streams: one per rule and per error path.
+// The PNG reader on hand-made streams: what it accepts and decodes to, and one stream per
+// refusal, with the loaded zlib and with the own inflate.
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <optional>
 
 #include "PngTestHelpers.h"
 #include "codec/Compression.h"
@@ -27,380 +29,207 @@ LoadResult Load(const std::vector<std::uint8_t>& bytes,
     std::int32_t width = -1, height = -1;
     result.ok = parser.LoadStream(bytes, 0, bytes.size(), result.image, width, height, limits);
     result.error = parser.LastError();
-    if (result.ok) {
-        EXPECT_EQ(width, result.image.Width());
-        EXPECT_EQ(height, result.image.Height());
-    } else {
-        EXPECT_TRUE(result.image.Empty());
-    }
+    EXPECT_EQ(result.ok, result.error == PngError::None);
+    EXPECT_EQ(width, result.image.Width());
+    EXPECT_EQ(height, result.image.Height());
+    EXPECT_EQ(result.image.ImageType(), result.ok ? ImageFormat::Png : ImageFormat::None);
+    EXPECT_EQ(result.image.Empty(), !result.ok);
     return result;
 }
 
 // A 2 x 2 RGB image: red, green / blue, white.
-std::vector<std::uint8_t> RawRgb2x2() {
-    return {0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 255, 255, 255, 255};
+const std::vector<std::uint8_t> kRawRgb{0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 255, 255, 255, 255};
+const std::vector<std::uint8_t> kRgba2x2{255, 0, 0,   255, 0,   255, 0,   255,
+                                         0,   0, 255, 255, 255, 255, 255, 255};
+const std::vector<std::uint8_t> kPalette3{255, 0, 0, 0, 255, 0, 0, 0, 255};
+
+using Chunks = std::initializer_list<std::pair<const char*, std::vector<std::uint8_t>>>;
+
+// An image with `chunks` before the zlib stream of `raw` (no IDAT when it is empty).
+std::vector<std::uint8_t> Png(std::uint32_t width, std::uint32_t height, std::uint8_t depth,
+                              std::uint8_t type, Chunks chunks,
+                              const std::vector<std::uint8_t>& raw) {
+    PngBuilder b;
+    b.Header(width, height, depth, type);
+    for (const auto& [chunkType, data] : chunks)
+        b.Chunk(chunkType, data);
+    if (!raw.empty()) b.ImageData(raw);
+    return b.End().Bytes();
 }
 
 std::vector<std::uint8_t> SmallRgb() {
-    return PngBuilder().Header(2, 2, 8, 2).ImageData(RawRgb2x2()).End().Bytes();
+    return Png(2, 2, 8, 2, {}, kRawRgb);
 }
 
-// Offset of the first chunk of `type` (its length field).
-std::size_t FindChunk(const std::vector<std::uint8_t>& png, const char* type) {
-    for (std::size_t at = 8; at + 8 <= png.size();) {
-        const std::uint32_t length =
-            (png[at] << 24) | (png[at + 1] << 16) | (png[at + 2] << 8) | png[at + 3];
-        if (std::equal(type, type + 4, png.begin() + static_cast<std::ptrdiff_t>(at + 4)))
-            return at;
-        at += 12 + length;
-    }
-    return std::string::npos;
-}
-
-TEST(PngParser, DecodesAPlainImageWithItsSizeAndType) {
-    const auto r = Load(SmallRgb());
-    ASSERT_TRUE(r.ok);
-    EXPECT_EQ(RgbaOf(r.image), (std::vector<std::uint8_t>{255, 0, 0, 255, 0, 255, 0, 255, 0, 0, 255,
-                                                          255, 255, 255, 255, 255}));
-    EXPECT_EQ(r.image.ImageType(), ImageFormat::Png);
-    EXPECT_FALSE(r.image.Alpha());
-}
-
-TEST(PngParser, RejectsEitherHalfOfTheSignature) {
-    for (std::size_t at : {0u, 3u, 4u, 7u}) {
-        auto png = SmallRgb();
-        png[at] ^= 0x20;
-        const auto r = Load(png);
-        EXPECT_FALSE(r.ok);
-        EXPECT_EQ(r.error, PngError::BadSignature) << at;
-    }
-    EXPECT_EQ(Load({0x89, 0x50, 0x4E}).error, PngError::TooShort);
-}
-
-TEST(PngParser, ReadsAStreamFromTheMiddleOfABuffer) {
-    const auto png = SmallRgb();
-    std::vector<std::uint8_t> buffer(10, 0xEE);
-    buffer.insert(buffer.end(), png.begin(), png.end());
-    buffer.insert(buffer.end(), 7, 0xEE);
-    c32bppDIB image;
-    cPNGParser parser;
-    std::int32_t w = 0, h = 0;
-    EXPECT_TRUE(parser.LoadStream(buffer, 10, png.size(), image, w, h));
-    EXPECT_EQ(w, 2);
-    EXPECT_FALSE(parser.LoadStream(buffer, 10, buffer.size(), image, w, h));  // past the end
-    EXPECT_FALSE(parser.LoadStream(buffer, buffer.size() + 1, 0, image, w, h));
-}
-
-TEST(PngParser, FilesOf56BytesOrLessAreNotRead) {
-    TempDir dir;
+// SmallRgb with `bytes` written at `at`.
+std::vector<std::uint8_t> Patched(std::size_t at, std::vector<std::uint8_t> bytes) {
     auto png = SmallRgb();
-    std::vector<std::uint8_t> head(png.begin(), png.begin() + 56);
-    WriteFileBytes(dir / "short.png", head);
-    std::FILE* file = std::fopen((dir / "short.png").c_str(), "rb");
-    ASSERT_NE(file, nullptr);
-    c32bppDIB image;
-    cPNGParser parser;
-    std::int32_t w = 0, h = 0;
-    EXPECT_FALSE(parser.LoadFile(file, image, w, h));
-    EXPECT_EQ(parser.LastError(), PngError::TooShort);
-    std::fclose(file);
-
-    head.push_back(png[56]);  // 57 bytes: read, and refused for being cut off
-    WriteFileBytes(dir / "short.png", head);
-    file = std::fopen((dir / "short.png").c_str(), "rb");
-    EXPECT_FALSE(parser.LoadFile(file, image, w, h));
-    EXPECT_EQ(parser.LastError(), PngError::TruncatedChunk);
-    std::fclose(file);
+    std::copy(bytes.begin(), bytes.end(), png.begin() + static_cast<std::ptrdiff_t>(at));
+    return png;
 }
 
-TEST(PngParser, FileAndMemoryGiveTheSamePixels) {
-    TempDir dir;
-    const auto png = PngBuilder()
-                         .Header(2, 2, 8, 2)
-                         .ImageData(RawRgb2x2(), 5)
-                         .Chunk("teXt", {1, 2, 3})
-                         .End()
-                         .Bytes();
-    WriteFileBytes(dir / "a.png", png);
-    std::FILE* file = std::fopen((dir / "a.png").c_str(), "rb");
-    c32bppDIB fromFile;
-    cPNGParser parser;
-    std::int32_t w = 0, h = 0;
-    ASSERT_TRUE(parser.LoadFile(file, fromFile, w, h));
-    std::fclose(file);
-    EXPECT_EQ(RgbaOf(fromFile), RgbaOf(Load(png).image));
+// A 4 x 1 palette image of 2-bit indices 0, 1, 2, 3.
+std::vector<std::uint8_t> Palette(Chunks chunks) {
+    return Png(4, 1, 2, 3, chunks, {0, 0x1B});
 }
 
-TEST(PngParser, RefusesChunksThatRunPastTheEnd) {
-    auto png = SmallRgb();
-    const std::size_t idat = FindChunk(png, "IDAT");
-    // One byte longer than everything that follows its header.
-    const auto tooLong = BE32(static_cast<std::uint32_t>(png.size() - idat - 12 + 1));
-    std::copy(tooLong.begin(), tooLong.end(), png.begin() + static_cast<std::ptrdiff_t>(idat));
-    EXPECT_EQ(Load(png).error, PngError::TruncatedChunk);
-    const auto exact = BE32(static_cast<std::uint32_t>(png.size() - idat - 12));
-    std::copy(exact.begin(), exact.end(), png.begin() + static_cast<std::ptrdiff_t>(idat));
-    EXPECT_NE(Load(png).error, PngError::TruncatedChunk);  // ends exactly at the end: read
-    png[idat] = 0x80;                                      // above 2^31 - 1
-    EXPECT_EQ(Load(png).error, PngError::ChunkTooLong);
+TEST(PngParser, AcceptsAndDecodes) {
+    const std::size_t idatCrc = 33 + 8 + SmallRgb()[36];  // IDAT follows the 25 bytes of IHDR
+    auto withTrailer = SmallRgb();
+    withTrailer.insert(withTrailer.end(), {1, 2, 3, 4, 5});
+    auto withoutIend = SmallRgb();
+    withoutIend.resize(withoutIend.size() - 12);
+    PngBuilder pieces;
+    pieces.Header(2, 2, 8, 2).ImageData(kRawRgb, 1).Chunk("abCd", {7}).Chunk("IDAT", {}).End();
+    std::vector<std::uint8_t> oneBitKeyed;  // 1010 1010 1, the key is 1
+    for (int x = 0; x < 9; ++x) {
+        const std::uint8_t v = x % 2 ? 0 : 255;
+        oneBitKeyed.insert(oneBitKeyed.end(), {v, v, v, static_cast<std::uint8_t>(255 - v)});
+    }
+    const struct {
+        const char* what;
+        std::vector<std::uint8_t> png, rgba;
+    } cases[] = {
+        {"plain RGB", SmallRgb(), kRgba2x2},
+        {"IDAT CRC stored as 0", Patched(idatCrc, {0, 0, 0, 0}), kRgba2x2},
+        {"IHDR CRC wrong", Patched(29, {1, 2, 3, 4}), kRgba2x2},
+        {"bytes after IEND", withTrailer, kRgba2x2},
+        {"no IEND", withoutIend, kRgba2x2},
+        {"IDAT in pieces between other chunks", pieces.Bytes(), kRgba2x2},
+        {"suggested palette of RGB", Png(2, 2, 8, 2, {{"PLTE", kPalette3}}, kRawRgb), kRgba2x2},
+        {"palette; index 3 past its end is opaque black",
+         Palette({{"PLTE", kPalette3}}),
+         {255, 0, 0, 255, 0, 255, 0, 255, 0, 0, 255, 255, 0, 0, 0, 255}},
+        {"palette with tRNS",
+         Palette({{"PLTE", kPalette3}, {"tRNS", {0, 128}}}),
+         {255, 0, 0, 0, 0, 255, 0, 128, 0, 0, 255, 255, 0, 0, 0, 255}},
+        {"16-bit grey key on the whole sample",
+         Png(2, 1, 16, 0, {{"tRNS", {0x12, 0x34}}}, {0, 0x12, 0x34, 0x12, 0xFF}),
+         {0x12, 0x12, 0x12, 0, 0x12, 0x12, 0x12, 255}},
+        {"2-bit grey scaled to the full range",
+         Png(4, 1, 2, 0, {}, {0, 0x1B}),
+         {0, 0, 0, 255, 85, 85, 85, 255, 170, 170, 170, 255, 255, 255, 255, 255}},
+        {"1-bit grey with key", Png(9, 1, 1, 0, {{"tRNS", {0, 1}}}, {0, 0xAA, 0x80}), oneBitKeyed},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto r = Load(c.png);
+        ASSERT_TRUE(r.ok) << PngErrorText(r.error);
+        EXPECT_EQ(RgbaOf(r.image), c.rgba);
+        bool translucent = false;
+        for (std::size_t i = 3; i < c.rgba.size(); i += 4)
+            translucent |= c.rgba[i] != 255;
+        EXPECT_EQ(r.image.Alpha(), translucent);  // with an alpha channel or tRNS only
+    }
+    RgbaImage image;
+    ASSERT_TRUE(DecodePngStream(SmallRgb(), image));
+    EXPECT_EQ(std::tie(image.width, image.height, image.rgba), std::make_tuple(2, 2, kRgba2x2));
+    EXPECT_FALSE(DecodePngStream(std::vector<std::uint8_t>{1, 2, 3}, image));
+    EXPECT_TRUE(image.width == 0 && image.rgba.empty());
+}
+
+std::vector<std::uint8_t> WithHeader(std::vector<std::uint8_t> header) {
+    return PngBuilder().Chunk("IHDR", header).ImageData(kRawRgb).End().Bytes();
+}
+
+// A 2 x 2 RGB image of the given chunks only.
+std::vector<std::uint8_t> Rgb(Chunks chunks) {
+    return Png(2, 2, 8, 2, chunks, {});
+}
+
+TEST(PngParser, RefusesWithTheRightError) {
+    using E = PngError;
+    auto shortData = kRawRgb, badFilter = kRawRgb;
+    shortData.pop_back();
+    badFilter[7] = 5;  // the second row's filter type
+    const std::uint32_t idatEnd = static_cast<std::uint32_t>(SmallRgb().size()) - 33 - 12;
     auto cut = SmallRgb();
     cut.resize(cut.size() - 5);  // inside IEND
-    EXPECT_EQ(Load(cut).error, PngError::TruncatedChunk);
-}
-
-TEST(PngParser, ChecksTheIdatCrcOnlyWithZlibLoaded) {
-    auto png = SmallRgb();
-    const std::size_t idat = FindChunk(png, "IDAT");
-    const std::uint32_t length = png[idat + 3];
-    png[idat + 8 + length] ^= 0x01;  // the stored CRC
-    {
-        ScopedZlibDisabled noZlib;
-        const auto r = Load(png);
-        ASSERT_TRUE(r.ok);
-        EXPECT_EQ(RgbaOf(r.image), RgbaOf(Load(SmallRgb()).image));
-    }
-    if (IsZlibLoaded()) {
-        EXPECT_EQ(Load(png).error, PngError::BadCrc);
-    }
-}
-
-TEST(PngParser, AStoredCrcOfZeroIsNotChecked) {
-    const auto stream = ZlibCompress(RawRgb2x2());
-    const auto png = PngBuilder().Header(2, 2, 8, 2).ChunkWithCrc("IDAT", stream, 0).End().Bytes();
-    EXPECT_TRUE(Load(png).ok);
-}
-
-TEST(PngParser, DoesNotCheckTheCrcOfOtherChunks) {
-    auto png = SmallRgb();
-    png[8 + 8 + 13] ^= 0xFF;  // IHDR's CRC
-    EXPECT_TRUE(Load(png).ok);
-}
-
-TEST(PngParser, RefusesInvalidHeaders) {
-    struct Case {
+    const auto icon = IconEntryLimits();
+    const struct {
         const char* what;
-        std::uint32_t width, height;
-        std::uint8_t depth, type, compression, filter, interlace;
+        std::vector<std::uint8_t> png;
+        E error;
+        DecodeLimits limits = PictureLimits();
+    } cases[] = {
+        {"3 bytes", {0x89, 0x50, 0x4E}, E::TooShort},
+        {"signature byte 0", Patched(0, {0xA9}), E::BadSignature},
+        {"signature byte 7", Patched(7, {0x2A}), E::BadSignature},
+        {"IDAT one byte past the end", Patched(33, BE32(idatEnd + 1)), E::TruncatedChunk},
+        {"chunk length 2^31", Patched(33, {0x80}), E::ChunkTooLong},
+        {"cut inside IEND", cut, E::TruncatedChunk},
+        {"grey depth 3", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 3, 0, 0, 0, 0}), E::BadHeader},
+        {"RGB depth 4", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 4, 2, 0, 0, 0}), E::BadHeader},
+        {"palette depth 16", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 16, 3, 0, 0, 0}), E::BadHeader},
+        {"colour type 1", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 1, 0, 0, 0}), E::BadHeader},
+        {"colour type 7", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 7, 0, 0, 0}), E::BadHeader},
+        {"compression 1", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 1, 0, 0}), E::BadHeader},
+        {"filter method 1", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 0, 1, 0}), E::BadHeader},
+        {"interlace 2", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 0, 0, 2}), E::BadHeader},
+        {"width 0", WithHeader({0, 0, 0, 0, 0, 0, 0, 2, 8, 2, 0, 0, 0}), E::BadHeader},
+        {"height 0", WithHeader({0, 0, 0, 2, 0, 0, 0, 0, 8, 2, 0, 0, 0}), E::BadHeader},
+        {"width 2^31", WithHeader({0x80, 0, 0, 0, 0, 0, 0, 2, 8, 2, 0, 0, 0}), E::BadHeader},
+        {"IHDR of 12 bytes", WithHeader({0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 0, 0}), E::BadHeader},
+        {"two IHDRs", Png(2, 2, 8, 2, {{"IHDR", {0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 0, 0, 0}}}, kRawRgb),
+         E::BadHeader},
+        {"IDAT before IHDR", PngBuilder().ImageData(kRawRgb).Header(2, 2, 8, 2).End().Bytes(),
+         E::MissingHeader},
+        {"no IHDR", PngBuilder().Chunk("teXt", {1}).End().Bytes(), E::MissingHeader},
+        {"2^31-1 square", Png(0x7FFFFFFF, 0x7FFFFFFF, 16, 6, {}, {}), E::TooLarge},
+        {"400 million pixels", Png(20000, 20000, 8, 0, {}, {}), E::TooLarge},
+        {"257 wide icon", Png(257, 1, 8, 0, {}, {}), E::TooLarge, icon},
+        {"257 tall icon", Png(1, 257, 8, 0, {}, {}), E::TooLarge, icon},
+        {"256 wide icon", Png(256, 1, 8, 0, {}, std::vector<std::uint8_t>(257, 0)), E::None, icon},
+        {"no IDAT", Rgb({}), E::NoImageData},
+        {"data one byte short", Rgb({{"IDAT", ZlibCompress(shortData)}}), E::DecompressionFailed},
+        {"broken stream", Rgb({{"IDAT", {0x78, 0x9C, 0xFF}}}), E::DecompressionFailed},
+        // 16 x 16 grey needs 272 bytes; the stream holds 50 MB of zeros.
+        {"decompression bomb", Png(16, 16, 8, 0, {}, std::vector<std::uint8_t>(50'000'000, 0)),
+         E::DecompressionFailed},
+        {"filter type 5", Rgb({{"IDAT", ZlibCompress(badFilter)}}), E::BadFilter},
+        {"palette image without PLTE", Palette({}), E::MissingPalette},
+        {"PLTE of 4 bytes", Palette({{"PLTE", {1, 2, 3, 4}}}), E::BadPalette},
+        {"PLTE of 257 entries", Palette({{"PLTE", std::vector<std::uint8_t>(771, 0)}}),
+         E::BadPalette},
+        {"tRNS past PLTE", Palette({{"PLTE", kPalette3}, {"tRNS", {1, 2, 3, 4}}}),
+         E::BadTransparency},
+        {"tRNS before PLTE", Palette({{"tRNS", {1}}, {"PLTE", kPalette3}}), E::BadTransparency},
+        {"RGB tRNS of 2 bytes", Png(2, 2, 8, 2, {{"tRNS", {0, 1}}}, kRawRgb), E::BadTransparency},
     };
-    const Case cases[] = {
-        {"grey depth 3", 2, 2, 3, 0, 0, 0, 0},
-        {"RGB depth 4", 2, 2, 4, 2, 0, 0, 0},
-        {"palette depth 16", 2, 2, 16, 3, 0, 0, 0},
-        {"colour type 1", 2, 2, 8, 1, 0, 0, 0},
-        {"colour type 7", 2, 2, 8, 7, 0, 0, 0},
-        {"compression 1", 2, 2, 8, 2, 1, 0, 0},
-        {"filter method 1", 2, 2, 8, 2, 0, 1, 0},
-        {"interlace 2", 2, 2, 8, 2, 0, 0, 2},
-        {"width 0", 0, 2, 8, 2, 0, 0, 0},
-        {"height 0", 2, 0, 8, 2, 0, 0, 0},
-        {"width 2^31", 0x80000000u, 2, 8, 2, 0, 0, 0},
-    };
-    for (const Case& c : cases) {
-        auto header = BE32(c.width);
-        const auto h = BE32(c.height);
-        header.insert(header.end(), h.begin(), h.end());
-        header.insert(header.end(), {c.depth, c.type, c.compression, c.filter, c.interlace});
-        const auto png = PngBuilder().Chunk("IHDR", header).ImageData(RawRgb2x2()).End().Bytes();
-        EXPECT_EQ(Load(png).error, PngError::BadHeader) << c.what;
+    for (bool ownInflate : {false, true}) {
+        std::optional<ScopedZlibDisabled> noZlib;
+        if (ownInflate) noZlib.emplace();
+        for (const auto& c : cases) {
+            EXPECT_EQ(Load(c.png, c.limits).error, c.error)
+                << c.what << (ownInflate ? " (own inflate)" : "");
+        }
     }
-    auto shortHeader = PngBuilder()
-                           .Chunk("IHDR", {0, 0, 0, 2, 0, 0, 0, 2, 8, 2, 0, 0})
-                           .ImageData(RawRgb2x2())
-                           .End();
-    EXPECT_EQ(Load(shortHeader.Bytes()).error, PngError::BadHeader);
-    EXPECT_EQ(
-        Load(
-            PngBuilder().Header(2, 2, 8, 2).Header(2, 2, 8, 2).ImageData(RawRgb2x2()).End().Bytes())
-            .error,
-        PngError::BadHeader);
-    EXPECT_EQ(Load(PngBuilder().ImageData(RawRgb2x2()).Header(2, 2, 8, 2).End().Bytes()).error,
-              PngError::MissingHeader);
-    EXPECT_EQ(Load(PngBuilder().Chunk("teXt", {1}).End().Bytes()).error, PngError::MissingHeader);
 }
 
-TEST(PngParser, RefusesImagesPastTheLimitsBeforeReadingTheirData) {
-    // No image data at all: the header alone decides.
-    const auto huge = PngBuilder().Header(0x7FFFFFFF, 0x7FFFFFFF, 16, 6).End().Bytes();
-    EXPECT_EQ(Load(huge).error, PngError::TooLarge);
-    const auto wide = PngBuilder().Header(257, 1, 8, 0).End().Bytes();
-    EXPECT_EQ(Load(wide, IconEntryLimits()).error, PngError::TooLarge);
-    const auto tall = PngBuilder().Header(1, 257, 8, 0).End().Bytes();
-    EXPECT_EQ(Load(tall, IconEntryLimits()).error, PngError::TooLarge);
-    const auto big = PngBuilder().Header(20000, 20000, 8, 0).End().Bytes();
-    EXPECT_EQ(Load(big).error, PngError::TooLarge);  // 400 million pixels
-    std::vector<std::uint8_t> raw(257 * 2, 0);
-    const auto fits = PngBuilder()
-                          .Header(256, 1, 8, 0)
-                          .ImageData(std::vector<std::uint8_t>(257, 0))
-                          .End()
-                          .Bytes();
-    EXPECT_TRUE(Load(fits, IconEntryLimits()).ok);
-}
-
-TEST(PngParser, StopsADecompressionBombAtTheImageSize) {
-    // 16 x 16 grey needs 272 bytes; the stream holds 50 MB of zeros.
-    const auto png = PngBuilder()
-                         .Header(16, 16, 8, 0)
-                         .ImageData(std::vector<std::uint8_t>(50'000'000, 0))
-                         .End()
-                         .Bytes();
-    EXPECT_LT(png.size(), 100'000u);
-    EXPECT_EQ(Load(png).error, PngError::DecompressionFailed);
-    ScopedZlibDisabled ownInflate;
-    EXPECT_EQ(Load(png).error, PngError::DecompressionFailed);
-}
-
-TEST(PngParser, RefusesImageDataThatIsTooShort) {
-    auto raw = RawRgb2x2();
-    raw.pop_back();
-    EXPECT_EQ(Load(PngBuilder().Header(2, 2, 8, 2).ImageData(raw).End().Bytes()).error,
-              PngError::DecompressionFailed);
-    EXPECT_EQ(Load(PngBuilder().Header(2, 2, 8, 2).End().Bytes()).error, PngError::NoImageData);
-    EXPECT_EQ(
-        Load(PngBuilder().Header(2, 2, 8, 2).Chunk("IDAT", {0x78, 0x9C, 0xFF}).End().Bytes()).error,
-        PngError::DecompressionFailed);
-}
-
-TEST(PngParser, RefusesAnUnknownFilterType) {
-    auto raw = RawRgb2x2();
-    raw[7] = 5;  // the second row's filter type
-    EXPECT_EQ(Load(PngBuilder().Header(2, 2, 8, 2).ImageData(raw).End().Bytes()).error,
-              PngError::BadFilter);
-}
-
-TEST(PngParser, ManySmallIdatChunksAndChunksBetweenThemDecodeTheSame) {
-    const auto one = Load(SmallRgb());
-    const auto stream = ZlibCompress(RawRgb2x2());
-    PngBuilder many;
-    many.Header(2, 2, 8, 2);
-    for (std::uint8_t byte : stream)
-        many.Chunk("IDAT", {byte}).Chunk("abCd", {7, 7});
-    many.Chunk("IDAT", {}).End();
-    const auto split = Load(many.Bytes());
-    ASSERT_TRUE(split.ok);
-    EXPECT_EQ(RgbaOf(split.image), RgbaOf(one.image));
-}
-
-TEST(PngParser, StopsAtIendAndIgnoresWhatFollows) {
-    auto png = SmallRgb();
-    png.insert(png.end(), {1, 2, 3, 4, 5});
-    EXPECT_TRUE(Load(png).ok);
-    auto noEnd = SmallRgb();
-    noEnd.resize(noEnd.size() - 12);  // the file ends cleanly after the last IDAT
-    EXPECT_TRUE(Load(noEnd).ok);
-}
-
-std::vector<std::uint8_t> Palette3() {
-    return {255, 0, 0, 0, 255, 0, 0, 0, 255};
-}
-
-TEST(PngParser, PaletteImagesHaveAlphaOnlyWithTrns) {
-    const std::vector<std::uint8_t> raw{0, 0x1B};  // 2-bit indices 0, 1, 2, 3
-    const auto plain = Load(
-        PngBuilder().Header(4, 1, 2, 3).Chunk("PLTE", Palette3()).ImageData(raw).End().Bytes());
-    ASSERT_TRUE(plain.ok);
-    EXPECT_FALSE(plain.image.Alpha());
-    // Index 3 is past the three entries: opaque black.
-    EXPECT_EQ(RgbaOf(plain.image), (std::vector<std::uint8_t>{255, 0, 0, 255, 0, 255, 0, 255, 0, 0,
-                                                              255, 255, 0, 0, 0, 255}));
-    const auto withTrns = Load(PngBuilder()
-                                   .Header(4, 1, 2, 3)
-                                   .Chunk("PLTE", Palette3())
-                                   .Chunk("tRNS", {0, 128})
-                                   .ImageData(raw)
-                                   .End()
-                                   .Bytes());
-    ASSERT_TRUE(withTrns.ok);
-    EXPECT_TRUE(withTrns.image.Alpha());
-    EXPECT_EQ(RgbaOf(withTrns.image), (std::vector<std::uint8_t>{255, 0, 0, 0, 0, 255, 0, 128, 0, 0,
-                                                                 255, 255, 0, 0, 0, 255}));
-}
-
-TEST(PngParser, RefusesBadPalettesAndTransparency) {
-    const std::vector<std::uint8_t> raw{0, 0};
-    EXPECT_EQ(Load(PngBuilder().Header(4, 1, 2, 3).ImageData(raw).End().Bytes()).error,
-              PngError::MissingPalette);
-    EXPECT_EQ(Load(PngBuilder()
-                       .Header(4, 1, 2, 3)
-                       .Chunk("PLTE", {1, 2, 3, 4})
-                       .ImageData(raw)
-                       .End()
-                       .Bytes())
-                  .error,
-              PngError::BadPalette);
-    EXPECT_EQ(Load(PngBuilder()
-                       .Header(4, 1, 2, 3)
-                       .Chunk("PLTE", std::vector<std::uint8_t>(771, 0))
-                       .ImageData(raw)
-                       .End()
-                       .Bytes())
-                  .error,
-              PngError::BadPalette);
-    EXPECT_EQ(Load(PngBuilder()
-                       .Header(4, 1, 2, 3)
-                       .Chunk("PLTE", Palette3())
-                       .Chunk("tRNS", {1, 2, 3, 4})
-                       .ImageData(raw)
-                       .End()
-                       .Bytes())
-                  .error,
-              PngError::BadTransparency);
-    EXPECT_EQ(Load(PngBuilder()
-                       .Header(4, 1, 2, 3)
-                       .Chunk("tRNS", {1})
-                       .Chunk("PLTE", Palette3())
-                       .ImageData(raw)
-                       .End()
-                       .Bytes())
-                  .error,
-              PngError::BadTransparency);
-    EXPECT_EQ(Load(PngBuilder()
-                       .Header(2, 2, 8, 2)
-                       .Chunk("tRNS", {0, 1})
-                       .ImageData(RawRgb2x2())
-                       .End()
-                       .Bytes())
-                  .error,
-              PngError::BadTransparency);
-    // Grey images have no palette, RGB images only a suggested one: neither is used.
-    const auto suggested = Load(PngBuilder()
-                                    .Header(2, 2, 8, 2)
-                                    .Chunk("PLTE", Palette3())
-                                    .ImageData(RawRgb2x2())
-                                    .End()
-                                    .Bytes());
-    EXPECT_TRUE(suggested.ok);
-}
-
-TEST(PngParser, MatchesTheGreyKeyOnTheFullSixteenBitSample) {
-    // Two pixels with the same high byte; only the first equals the key.
-    const std::vector<std::uint8_t> raw{0, 0x12, 0x34, 0x12, 0xFF};
-    const auto r = Load(
-        PngBuilder().Header(2, 1, 16, 0).Chunk("tRNS", {0x12, 0x34}).ImageData(raw).End().Bytes());
-    ASSERT_TRUE(r.ok);
-    EXPECT_TRUE(r.image.Alpha());
-    EXPECT_EQ(RgbaOf(r.image),
-              (std::vector<std::uint8_t>{0x12, 0x12, 0x12, 0, 0x12, 0x12, 0x12, 255}));
-}
-
-TEST(PngParser, ScalesSubByteGreyToTheFullRange) {
-    const auto two = Load(PngBuilder().Header(4, 1, 2, 0).ImageData({0, 0x1B}).End().Bytes());
-    ASSERT_TRUE(two.ok);
-    const auto px = RgbaOf(two.image);
-    EXPECT_EQ((std::vector<int>{px[0], px[4], px[8], px[12]}), (std::vector<int>{0, 85, 170, 255}));
-    const auto one = Load(PngBuilder()
-                              .Header(9, 1, 1, 0)
-                              .Chunk("tRNS", {0, 1})
-                              .ImageData({0, 0xAA, 0x80})
-                              .End()
-                              .Bytes());
-    ASSERT_TRUE(one.ok);
-    const auto bits = RgbaOf(one.image);
-    for (int x = 0; x < 9; ++x) {
-        const bool set = x % 2 == 0;  // 1010 1010 1
-        EXPECT_EQ(bits[4 * x], set ? 255 : 0) << x;
-        EXPECT_EQ(bits[4 * x + 3], set ? 0 : 255) << x;  // the key is 1
+// Files of 56 bytes or less are not read at all; longer ones chunk by chunk.
+TEST(PngParser, ReadsFilesOfMoreThan56Bytes) {
+    const auto png =
+        PngBuilder().Header(2, 2, 8, 2).ImageData(kRawRgb, 5).Chunk("teXt", {1, 2}).End().Bytes();
+    c32bppDIB image;
+    cPNGParser parser;
+    std::int32_t w = 0, h = 0;
+    TempDir dir;
+    const struct {
+        std::size_t length;
+        PngError error;
+    } files[] = {
+        {56, PngError::TooShort}, {57, PngError::TruncatedChunk}, {png.size(), PngError::None}};
+    for (const auto& [length, error] : files) {
+        WriteFileBytes(dir / "a.png",
+                       std::vector<std::uint8_t>(
+                           png.begin(), png.begin() + static_cast<std::ptrdiff_t>(length)));
+        std::FILE* file = std::fopen((dir / "a.png").c_str(), "rb");
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(parser.LoadFile(file, image, w, h), error == PngError::None) << length;
+        EXPECT_EQ(parser.LastError(), error) << length;
+        std::fclose(file);
     }
+    EXPECT_EQ(RgbaOf(image), kRgba2x2);
 }
 
 // Unfiltered Adam7 data of an RGBA image, built pass by pass.
@@ -408,45 +237,32 @@ std::vector<std::uint8_t> Interlace(int width, int height, const std::vector<std
     static const int pattern[7][4] = {{0, 0, 8, 8}, {4, 0, 8, 8}, {0, 4, 4, 8}, {2, 0, 4, 4},
                                       {0, 2, 2, 4}, {1, 0, 2, 2}, {0, 1, 1, 2}};
     std::vector<std::uint8_t> raw;
-    for (const auto& p : pattern) {
-        for (int y = p[1]; y < height; y += p[3]) {
-            if (p[0] >= width) break;
+    for (const auto& [x0, y0, dx, dy] : pattern) {
+        for (int y = y0; y < height && x0 < width; y += dy) {
             raw.push_back(0);
-            for (int x = p[0]; x < width; x += p[2]) {
-                const auto at = rgba.begin() + 4 * (y * width + x);
-                raw.insert(raw.end(), at, at + 4);
-            }
+            for (int x = x0; x < width; x += dx)
+                raw.insert(raw.end(), rgba.begin() + 4 * (y * width + x),
+                           rgba.begin() + 4 * (y * width + x) + 4);
         }
     }
     return raw;
 }
 
+// Every width and height up to 10, so that passes are empty in one direction only.
 TEST(PngParser, DeinterlacesImagesSmallerThanThePattern) {
     for (int width = 1; width <= 10; ++width) {
         for (int height = 1; height <= 10; ++height) {
-            const auto rgba = RandomImage(ImageKind::Rgba, width, height,
-                                          static_cast<std::uint32_t>(width * 100 + height));
-            const auto png = PngBuilder()
-                                 .Header(width, height, 8, 6, 1)
-                                 .ImageData(Interlace(width, height, rgba))
-                                 .End()
-                                 .Bytes();
-            const auto r = Load(png);
-            ASSERT_TRUE(r.ok) << width << "x" << height;
-            EXPECT_EQ(RgbaOf(r.image), rgba) << width << "x" << height;
+            SCOPED_TRACE(testing::Message() << width << "x" << height);
+            const auto rgba = RandomImage(ImageKind::Rgba, width, height, width * 100 + height);
+            const auto r = Load(PngBuilder()
+                                    .Header(width, height, 8, 6, 1)
+                                    .ImageData(Interlace(width, height, rgba))
+                                    .End()
+                                    .Bytes());
+            ASSERT_TRUE(r.ok);
+            EXPECT_EQ(RgbaOf(r.image), rgba);
         }
     }
-}
-
-TEST(PngParser, DecodePngStreamGivesStraightTopDownRgba) {
-    RgbaImage image;
-    ASSERT_TRUE(DecodePngStream(SmallRgb(), image));
-    EXPECT_EQ(image.width, 2);
-    EXPECT_EQ(image.height, 2);
-    EXPECT_EQ(image.rgba, RgbaOf(Load(SmallRgb()).image));
-    EXPECT_FALSE(DecodePngStream(std::vector<std::uint8_t>{1, 2, 3}, image));
-    EXPECT_EQ(image.width, 0);
-    EXPECT_TRUE(image.rgba.empty());
 }
 
 }  // namespace

@@ -1,13 +1,9 @@
 #pragma once
 // Helpers for the PNG tests: streams built chunk by chunk, pixels out of a c32bppDIB as
-// RGBA, the PngSuite reference pixels and deterministic random images.
+// RGBA, and deterministic random images.
 
-#include <array>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
-#include <random>
-#include <string>
 #include <vector>
 
 #include "codec/c32bppDIB.h"
@@ -25,7 +21,7 @@ class PngBuilder {
                        std::uint8_t colorType, std::uint8_t interlace = 0);
     // IDAT chunks of at most `piece` bytes holding the zlib stream of `raw`.
     PngBuilder& ImageData(const std::vector<std::uint8_t>& raw, std::size_t piece = 1u << 30);
-    PngBuilder& End();
+    PngBuilder& End() { return Chunk("IEND", {}); }
     const std::vector<std::uint8_t>& Bytes() const { return bytes_; }
 
   private:
@@ -34,13 +30,9 @@ class PngBuilder {
 
 std::vector<std::uint8_t> BE32(std::uint32_t value);
 
-// The DIB's pixels as R, G, B, A, top row first.
+// The DIB's pixels as R, G, B, A, top row first; and a DIB from such pixels.
 std::vector<std::uint8_t> RgbaOf(const c32bppDIB& image);
-// A DIB from R, G, B, A pixels, top row first.
 c32bppDIB DibFromRgba(int width, int height, const std::vector<std::uint8_t>& rgba);
-
-// The numbers of a PngSuite reference file (a JSON array of integers).
-std::vector<int> ReadJsonNumbers(const std::filesystem::path& file);
 
 // Decodes a PNG in memory; nullopt on failure.
 std::optional<c32bppDIB> Decode(const std::vector<std::uint8_t>& png);
@@ -57,10 +49,10 @@ enum class ImageKind {
     Rgba,
     ColorKey
 };
+constexpr ImageKind kAllKinds[] = {ImageKind::Grey,     ImageKind::GreyAlpha, ImageKind::Palette2,
+                                   ImageKind::Palette4, ImageKind::Palette16, ImageKind::Palette256,
+                                   ImageKind::Rgb,      ImageKind::Rgba,      ImageKind::ColorKey};
 const char* KindName(ImageKind kind);
 std::vector<std::uint8_t> RandomImage(ImageKind kind, int width, int height, std::uint32_t seed);
-
-// Runs a shell command and returns its standard output; nullopt when it fails.
-std::optional<std::vector<std::uint8_t>> RunCapture(const std::string& command);
 
 }  // namespace iw::test
