@@ -3,6 +3,8 @@
 
 #include "codec/Compression.h"
 
+#include <cstring>
+
 #include "codec/Deflate.h"
 #include "codec/Inflate.h"
 #include "codec/ZlibLibrary.h"
@@ -77,6 +79,23 @@ InflateStatus ZlibDecompress(std::span<const std::uint8_t> in, std::size_t maxOu
         return own;
     }
     return InflateStatus::LibraryError;
+}
+
+InflateStatus ZlibDecompressInto(std::span<const std::uint8_t> in, std::span<std::uint8_t> out) {
+    const ZlibLibrary* zlib = out.empty() ? nullptr : ProgramZlib();
+    if (zlib) {
+        std::size_t produced = out.size();
+        const int result = zlib->Uncompress(out.data(), produced, in.data(), in.size());
+        if (result == ZlibLibrary::kOk && produced == out.size()) return InflateStatus::Ok;
+        // A stream that holds more than fits, or fewer: the own decoder names the fault.
+    }
+    std::vector<std::uint8_t> whole;
+    const InflateStatus status = InflateZlib(in, out.size(), whole);
+    if (status != InflateStatus::Ok) return status;
+    if (whole.size() != out.size()) return InflateStatus::TruncatedInput;
+    if (zlib) return InflateStatus::LibraryError;  // the library refused what the own read
+    std::memcpy(out.data(), whole.data(), whole.size());
+    return InflateStatus::Ok;
 }
 
 std::vector<std::uint8_t> ZlibCompress(std::span<const std::uint8_t> in) {

@@ -38,6 +38,11 @@ const char* InflateStatusText(InflateStatus status);
 InflateStatus ZlibDecompress(std::span<const std::uint8_t> in, std::size_t maxOutput,
                              std::vector<std::uint8_t>& out);
 
+// Inflates the zlib stream `in` into the caller's buffer `out`, which the stream must fill
+// exactly: Ok only when it holds out.size() bytes, no more and no fewer. The bytes of
+// `out` are undefined after a failure.
+InflateStatus ZlibDecompressInto(std::span<const std::uint8_t> in, std::span<std::uint8_t> out);
+
 // A zlib stream of `in`: zlib's compress2 at level 9 (else compress) when loaded, else the
 // own deflate. Empty when the library's call failed (a zlib stream is never empty).
 std::vector<std::uint8_t> ZlibCompress(std::span<const std::uint8_t> in);

@@ -16,6 +16,14 @@ bool DecodePngStream(std::span<const std::uint8_t> stream, c32bppDIB& image,
     return parser.LoadStream(stream, 0, stream.size(), image, width, height, limits);
 }
 
+bool DecodePngStream(std::span<const std::uint8_t> stream, png::RowSink& sink,
+                     const DecodeLimits& limits) {
+    cPNGParser parser;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    return parser.LoadStream(stream, 0, stream.size(), sink, width, height, limits);
+}
+
 bool DecodePngStream(std::span<const std::uint8_t> stream, RgbaImage& image,
                      const DecodeLimits& limits) {
     image = {};

@@ -12,6 +12,9 @@
 namespace iw {
 
 class c32bppDIB;
+namespace png {
+class RowSink;
+}
 
 // Straight (not premultiplied) RGBA, 4 bytes a pixel, top row first, no row padding.
 struct RgbaImage {
@@ -25,6 +28,11 @@ struct RgbaImage {
 bool DecodePngStream(std::span<const std::uint8_t> stream, RgbaImage& image,
                      const DecodeLimits& limits = IconEntryLimits());
 bool DecodePngStream(std::span<const std::uint8_t> stream, c32bppDIB& image,
+                     const DecodeLimits& limits = IconEntryLimits());
+// Hands the rows to `sink` as they are decoded (B, G, R, A bytes, top row first), for
+// callers that keep pixels in a layout of their own. The sink hears nothing of a stream
+// that fails.
+bool DecodePngStream(std::span<const std::uint8_t> stream, png::RowSink& sink,
                      const DecodeLimits& limits = IconEntryLimits());
 
 // Encodes `width` x `height` straight RGBA pixels (top row first) as a PNG stream into

@@ -26,6 +26,11 @@ inline std::uint8_t PaethPredictor(int a, int b, int c) {
 // distance of one whole pixel (at least 1). Returns false on a filter type above 4.
 bool UnfilterRows(std::uint8_t* data, std::size_t rows, std::size_t rowBytes, std::size_t stride);
 
+// Undoes filter `type` (0 to 4) on one row of `count` bytes in place. `prior` is the
+// reconstructed row above, or nullptr for the first row (a row of zeros).
+void UnfilterRow(std::uint8_t type, std::uint8_t* row, const std::uint8_t* prior, std::size_t count,
+                 std::size_t stride);
+
 // Filters one row of `count` bytes with `type` into `out` (count bytes, no filter byte).
 // `prior` is the unfiltered row above (zeros for the first row).
 void FilterRow(std::uint8_t type, const std::uint8_t* row, const std::uint8_t* prior,

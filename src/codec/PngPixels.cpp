@@ -1,7 +1,5 @@
 #include "codec/PngPixels.h"
 
-#include "codec/c32bppDIB.h"
-
 namespace iw::png {
 namespace {
 
@@ -21,7 +19,8 @@ inline void Put(std::uint8_t* out, std::uint8_t r, std::uint8_t g, std::uint8_t 
     out[3] = a;
 }
 
-// One row: `count` pixels from `in` to `out`, `step` bytes apart in the output.
+}  // namespace
+
 void ConvertRow(const std::uint8_t* in, std::uint32_t count, const PixelSource& src,
                 std::uint8_t* out, std::size_t step) {
     const auto& key = src.transparent;
@@ -115,15 +114,13 @@ void ConvertRow(const std::uint8_t* in, std::uint32_t count, const PixelSource& 
     }
 }
 
-}  // namespace
-
 void PlacePass(const PassLayout& pass, const std::uint8_t* rows, const PixelSource& source,
-               c32bppDIB& dib) {
+               std::uint8_t* top, std::ptrdiff_t pitch) {
     const std::size_t step = 4 * static_cast<std::size_t>(pass.dx);
     for (std::uint32_t r = 0; r < pass.rows; ++r) {
         const std::uint32_t y = pass.y0 + r * pass.dy;
         std::uint8_t* out =
-            dib.TopDownRow(static_cast<std::int32_t>(y)) + 4 * static_cast<std::size_t>(pass.x0);
+            top + static_cast<std::ptrdiff_t>(y) * pitch + 4 * static_cast<std::ptrdiff_t>(pass.x0);
         ConvertRow(rows + static_cast<std::size_t>(r) * (pass.rowBytes + 1) + 1, pass.columns,
                    source, out, step);
     }

@@ -3,16 +3,13 @@
 // blue, green, red, alpha quadruple (straight alpha).
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
 #include "codec/PngFormat.h"
 
-namespace iw {
-
-class c32bppDIB;
-
-namespace png {
+namespace iw::png {
 
 // Everything besides the header that decides a pixel's colour.
 struct PixelSource {
@@ -25,10 +22,31 @@ struct PixelSource {
     std::optional<std::array<std::uint16_t, 3>> transparent;
 };
 
-// Places one image or interlace pass. `rows` points at the pass's first row of 1 +
-// pass.rowBytes bytes (filter byte first, already unfiltered). `dib` has the image's size.
-void PlacePass(const PassLayout& pass, const std::uint8_t* rows, const PixelSource& source,
-               c32bppDIB& dib);
+// Converts `count` unfiltered pixels at `in` into B, G, R, A quadruples at `out`, `step`
+// bytes apart.
+void ConvertRow(const std::uint8_t* in, std::uint32_t count, const PixelSource& source,
+                std::uint8_t* out, std::size_t step);
 
-}  // namespace png
-}  // namespace iw
+// Places one image or interlace pass. `rows` points at the pass's first row of 1 +
+// pass.rowBytes bytes (filter byte first, already unfiltered). `top` is the image's top
+// row of 4-byte pixels and `pitch` the distance from one row to the row below it.
+void PlacePass(const PassLayout& pass, const std::uint8_t* rows, const PixelSource& source,
+               std::uint8_t* top, std::ptrdiff_t pitch);
+
+// Receives a decoded image row by row, top row first, each pixel as blue, green, red and
+// alpha bytes (straight alpha).
+class RowSink {
+  public:
+    virtual ~RowSink() = default;
+    // The image's size, once, before any row. False refuses the image; the decode then
+    // fails as out of memory.
+    virtual bool Begin(std::uint32_t width, std::uint32_t height) = 0;
+    // Where row `y` goes: 4 x width bytes. The decoder reads row y - 1 back from where it
+    // was written while it reconstructs row y, so the bytes given for a row must stay as
+    // the decoder left them until the next row is done.
+    virtual std::uint8_t* Row(std::uint32_t y) = 0;
+    // Row `y` is complete.
+    virtual void RowDone(std::uint32_t y) = 0;
+};
+
+}  // namespace iw::png

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <memory>
 #include <new>
 
 #include "codec/ByteReader.h"
@@ -90,6 +91,47 @@ class FileChunks final : public cPNGParser::ChunkSource {
     std::vector<std::uint8_t> work_;
 };
 
+// Writes the rows straight into the image's section.
+class DibRows final : public png::RowSink {
+  public:
+    explicit DibRows(c32bppDIB& target) : target_(target) {}
+    bool Begin(std::uint32_t width, std::uint32_t height) override {
+        return target_.InitializeDIB(static_cast<std::int32_t>(width),
+                                     static_cast<std::int32_t>(height));
+    }
+    std::uint8_t* Row(std::uint32_t y) override {
+        return target_.TopDownRow(static_cast<std::int32_t>(y));
+    }
+    void RowDone(std::uint32_t) override {}
+
+  private:
+    c32bppDIB& target_;
+};
+
+// Hands an image that is already decoded (by GDI+) to a sink.
+bool CopyRows(const c32bppDIB& image, png::RowSink& sink) {
+    const auto width = static_cast<std::uint32_t>(image.Width());
+    const auto height = static_cast<std::uint32_t>(image.Height());
+    if (!sink.Begin(width, height)) return false;
+    for (std::uint32_t y = 0; y < height; ++y) {
+        std::memcpy(sink.Row(y), image.TopDownRow(static_cast<std::int32_t>(y)),
+                    std::size_t{width} * 4);
+        sink.RowDone(y);
+    }
+    return true;
+}
+
+// RGBA to BGRA: red and blue change places. The filters work on each byte of a pixel
+// apart from the others, so the swap may come before the unfiltering.
+void SwapRedBlue(const std::uint8_t* in, std::uint8_t* out, std::size_t pixels) {
+    for (std::size_t i = 0; i < pixels; ++i, in += 4, out += 4) {
+        std::uint32_t v;
+        std::memcpy(&v, in, 4);
+        v = (v & 0xFF00FF00u) | ((v >> 16) & 0xFFu) | ((v & 0xFFu) << 16);
+        std::memcpy(out, &v, 4);
+    }
+}
+
 }  // namespace
 
 bool cPNGParser::HasSignature(std::span<const std::uint8_t> bytes) {
@@ -134,6 +176,38 @@ bool cPNGParser::LoadStream(std::span<const std::uint8_t> bytes, std::size_t sta
     return Run(source, target, width, height, limits);
 }
 
+bool cPNGParser::LoadStream(std::span<const std::uint8_t> bytes, std::size_t start,
+                            std::size_t length, png::RowSink& sink, std::int32_t& width,
+                            std::int32_t& height, const DecodeLimits& limits) {
+    Reset();
+    width = height = 0;
+    if (!RangeFits(start, length, bytes.size())) {
+        error_ = PngError::TooShort;
+        return false;
+    }
+    const auto data = bytes.subspan(start, length);
+    if (!HasSignature(data)) {
+        error_ = data.size() < 8 ? PngError::TooShort : PngError::BadSignature;
+        return false;
+    }
+    cGDIPlus gdiPlus;
+    c32bppDIB decoded;
+    if (gdiPlus.LoadPictureStream(data, decoded, limits)) {
+        if (!CopyRows(decoded, sink)) {
+            error_ = PngError::OutOfMemory;
+            return false;
+        }
+        width = decoded.Width();
+        height = decoded.Height();
+        return true;
+    }
+    MemoryChunks source(data);
+    if (!Run(source, sink, limits)) return false;
+    width = static_cast<std::int32_t>(header_.width);
+    height = static_cast<std::int32_t>(header_.height);
+    return true;
+}
+
 bool cPNGParser::LoadFile(std::FILE* file, c32bppDIB& target, std::int32_t& width,
                           std::int32_t& height, const DecodeLimits& limits) {
     Reset();
@@ -171,22 +245,31 @@ bool cPNGParser::LoadFile(std::FILE* file, c32bppDIB& target, std::int32_t& widt
 
 bool cPNGParser::Run(ChunkSource& source, c32bppDIB& target, std::int32_t& width,
                      std::int32_t& height, const DecodeLimits& limits) {
+    DibRows rows(target);
+    if (!Run(source, rows, limits)) {
+        target.DestroyDIB();
+        return false;
+    }
+    const bool hasAlphaChannel =
+        header_.colorType == png::kGreyAlpha || header_.colorType == png::kRgba;
+    target.Alpha(hasAlphaChannel || haveTransparency_);
+    target.ImageType(ImageFormat::Png);
+    width = target.Width();
+    height = target.Height();
+    return true;
+}
+
+bool cPNGParser::Run(ChunkSource& source, png::RowSink& sink, const DecodeLimits& limits) {
     try {
         error_ = ParseChunks(source, limits);
-        if (error_ == PngError::None) error_ = Decode(target);
+        if (error_ == PngError::None) error_ = Decode(sink);
     } catch (const std::bad_alloc&) {
         error_ = PngError::OutOfMemory;
     } catch (const std::exception&) {
         error_ = PngError::ReadFailed;
     }
     compressed_ = {};
-    if (error_ != PngError::None) {
-        target.DestroyDIB();
-        return false;
-    }
-    width = target.Width();
-    height = target.Height();
-    return true;
+    return error_ == PngError::None;
 }
 
 PngError cPNGParser::ParseChunks(ChunkSource& source, const DecodeLimits& limits) {
@@ -336,36 +419,76 @@ PngError cPNGParser::AppendImageData(std::span<const std::uint8_t> typeAndData,
     return PngError::None;
 }
 
-PngError cPNGParser::Decode(c32bppDIB& target) {
+PngError cPNGParser::Decode(png::RowSink& sink) {
     const auto layout = png::LayoutOf(header_);
     if (!layout) return PngError::TooLarge;
-    std::vector<std::uint8_t> raw;
-    // The image's filtered size is the most the stream may hold: a bomb stops here.
-    if (ZlibDecompress(compressed_, layout->rawSize, raw) != InflateStatus::Ok ||
-        raw.size() != layout->rawSize) {
+    // Every byte is written by the inflate before it is read, so the buffer starts
+    // uninitialised. The image's filtered size is the most the stream may hold: a bomb
+    // stops here.
+    const auto raw = std::make_unique_for_overwrite<std::uint8_t[]>(layout->rawSize);
+    if (ZlibDecompressInto(compressed_, {raw.get(), layout->rawSize}) != InflateStatus::Ok) {
         return PngError::DecompressionFailed;
     }
     compressed_ = {};
-    const std::size_t stride = png::FilterStride(header_.colorType, header_.bitDepth);
+    // The filter types are all checked first, so that nothing reaches the sink from an
+    // image that turns out to be corrupt.
     for (int p = 0; p < layout->passCount; ++p) {
         const png::PassLayout& pass = layout->passes[static_cast<std::size_t>(p)];
-        // Each pass is unfiltered as an image of its own, with a zero row above its first.
-        if (!png::UnfilterRows(raw.data() + pass.offset, pass.rows, pass.rowBytes, stride)) {
-            return PngError::BadFilter;
+        for (std::uint32_t r = 0; r < pass.rows; ++r) {
+            if (raw[pass.offset + r * (pass.rowBytes + 1)] > png::kFilterPaeth) {
+                return PngError::BadFilter;
+            }
         }
     }
-    if (!target.InitializeDIB(static_cast<std::int32_t>(header_.width),
-                              static_cast<std::int32_t>(header_.height))) {
-        return PngError::OutOfMemory;
+    const std::size_t stride = png::FilterStride(header_.colorType, header_.bitDepth);
+    const std::uint32_t width = header_.width;
+    const std::uint32_t height = header_.height;
+    if (layout->passCount > 1) {
+        // Interlaced: each pass is unfiltered as an image of its own, with a zero row above
+        // its first, and the passes are gathered in a whole image before the rows go out.
+        for (int p = 0; p < layout->passCount; ++p) {
+            const png::PassLayout& pass = layout->passes[static_cast<std::size_t>(p)];
+            png::UnfilterRows(raw.get() + pass.offset, pass.rows, pass.rowBytes, stride);
+        }
+        const std::size_t pitch = std::size_t{width} * 4;
+        std::vector<std::uint8_t> image(pitch * height);
+        for (int p = 0; p < layout->passCount; ++p) {
+            const png::PassLayout& pass = layout->passes[static_cast<std::size_t>(p)];
+            png::PlacePass(pass, raw.get() + pass.offset, pixels_, image.data(),
+                           static_cast<std::ptrdiff_t>(pitch));
+        }
+        if (!sink.Begin(width, height)) return PngError::OutOfMemory;
+        for (std::uint32_t y = 0; y < height; ++y) {
+            std::memcpy(sink.Row(y), image.data() + y * pitch, pitch);
+            sink.RowDone(y);
+        }
+        return PngError::None;
     }
-    for (int p = 0; p < layout->passCount; ++p) {
-        const png::PassLayout& pass = layout->passes[static_cast<std::size_t>(p)];
-        png::PlacePass(pass, raw.data() + pass.offset, pixels_, target);
+    if (!sink.Begin(width, height)) return PngError::OutOfMemory;
+    const png::PassLayout& pass = layout->passes[0];
+    const std::size_t line = pass.rowBytes + 1;
+    if (header_.colorType == png::kRgba && header_.bitDepth == 8) {
+        // Eight-bit RGBA is unfiltered where it ends up: the row above is read back from the
+        // sink's previous row.
+        const std::uint8_t* above = nullptr;
+        for (std::uint32_t y = 0; y < height; ++y) {
+            const std::uint8_t* filtered = raw.get() + y * line;
+            std::uint8_t* out = sink.Row(y);
+            SwapRedBlue(filtered + 1, out, width);
+            png::UnfilterRow(filtered[0], out, above, pass.rowBytes, stride);
+            sink.RowDone(y);
+            above = out;
+        }
+        return PngError::None;
     }
-    const bool hasAlphaChannel =
-        header_.colorType == png::kGreyAlpha || header_.colorType == png::kRgba;
-    target.Alpha(hasAlphaChannel || haveTransparency_);
-    target.ImageType(ImageFormat::Png);
+    const std::uint8_t* above = nullptr;
+    for (std::uint32_t y = 0; y < height; ++y) {
+        std::uint8_t* filtered = raw.get() + y * line;
+        png::UnfilterRow(filtered[0], filtered + 1, above, pass.rowBytes, stride);
+        png::ConvertRow(filtered + 1, width, pixels_, sink.Row(y), 4);
+        sink.RowDone(y);
+        above = filtered + 1;
+    }
     return PngError::None;
 }
 

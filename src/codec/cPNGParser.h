@@ -36,6 +36,13 @@ class cPNGParser {
                     c32bppDIB& target, std::int32_t& width, std::int32_t& height,
                     const DecodeLimits& limits = PictureLimits());
 
+    // Reads the PNG at bytes[start, start + length) into `sink`, row by row, without an
+    // image object in between. Every check on the stream comes before the sink's Begin, so
+    // nothing reaches the sink from a stream that fails.
+    bool LoadStream(std::span<const std::uint8_t> bytes, std::size_t start, std::size_t length,
+                    png::RowSink& sink, std::int32_t& width, std::int32_t& height,
+                    const DecodeLimits& limits = PictureLimits());
+
     // Why the last load failed (None after a success).
     PngError LastError() const { return error_; }
     // The header of the last image read (valid once IHDR was parsed).
@@ -49,13 +56,14 @@ class cPNGParser {
   private:
     bool Run(ChunkSource& source, c32bppDIB& target, std::int32_t& width, std::int32_t& height,
              const DecodeLimits& limits);
+    bool Run(ChunkSource& source, png::RowSink& sink, const DecodeLimits& limits);
     PngError ParseChunks(ChunkSource& source, const DecodeLimits& limits);
     PngError ParseHeader(std::span<const std::uint8_t> data, const DecodeLimits& limits);
     PngError ParsePalette(std::span<const std::uint8_t> data);
     PngError ParseTransparency(std::span<const std::uint8_t> data);
     PngError AppendImageData(std::span<const std::uint8_t> typeAndData, std::uint32_t storedCrc,
                              std::uint64_t inputSize);
-    PngError Decode(c32bppDIB& target);
+    PngError Decode(png::RowSink& sink);
     void Reset();
 
     png::Header header_;
