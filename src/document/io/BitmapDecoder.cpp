@@ -61,26 +61,41 @@ void DecodeIndexedRow(const StoredRow& row, int width, int bitCount,
     }
 }
 
+// The pixels of a row that lie wholly inside the file.
+int WholePixels(const StoredRow& row, int width, int bytesPerPixel) {
+    const std::size_t whole = row.available / static_cast<std::size_t>(bytesPerPixel);
+    return whole < static_cast<std::size_t>(width) ? static_cast<int>(whole) : width;
+}
+
 void DecodeTrueColorRow(const StoredRow& row, int width, int bytesPerPixel, std::int32_t* colors,
                         std::int32_t* alphas) {
-    for (int x = 0; x < width; ++x) {
-        std::size_t at = static_cast<std::size_t>(x) * static_cast<std::size_t>(bytesPerPixel);
-        if (at + static_cast<std::size_t>(bytesPerPixel) > row.available) break;
-        const std::uint8_t* p = row.bytes + at;
-        colors[x] = PackColor(p[2], p[1], p[0]);
-        if (bytesPerPixel == 4) alphas[x] = p[3];
+    const int count = WholePixels(row, width, bytesPerPixel);
+    const std::uint8_t* p = row.bytes;
+    // Stored blue, green, red (and alpha): packed as 0x00BBGGRR, which needs no clamping.
+    if (bytesPerPixel == 4) {
+        for (int x = 0; x < count; ++x, p += 4) {
+            colors[x] = p[2] | (p[1] << 8) | (p[0] << 16);
+            alphas[x] = p[3];
+        }
+    } else {
+        for (int x = 0; x < count; ++x, p += bytesPerPixel)
+            colors[x] = p[2] | (p[1] << 8) | (p[0] << 16);
     }
 }
 
 void ApplyMaskRow(const StoredRow& row, int width, std::int32_t* colors) {
-    for (int x = 0; x < width; ++x) {
-        std::size_t byteIndex = static_cast<std::size_t>(x / 8);
-        if (byteIndex >= row.available) break;
-        if (!((row.bytes[byteIndex] >> (7 - x % 8)) & 1)) continue;
-        if (colors[x] == 0) {
-            colors[x] = TransparentColor;
-        } else if (colors[x] == 0xFFFFFF) {
-            colors[x] = InverseColor;
+    const int bytes = static_cast<int>(std::min<std::size_t>(row.available, (width + 7) / 8));
+    for (int i = 0; i < bytes; ++i) {
+        const std::uint8_t bits = row.bytes[i];
+        if (bits == 0) continue;  // eight pixels without a mask bit
+        const int end = std::min(width, 8 * i + 8);
+        for (int x = 8 * i; x < end; ++x) {
+            if (!((bits >> (7 - x % 8)) & 1)) continue;
+            if (colors[x] == 0) {
+                colors[x] = TransparentColor;
+            } else if (colors[x] == 0xFFFFFF) {
+                colors[x] = InverseColor;
+            }
         }
     }
 }

@@ -1,0 +1,57 @@
+// Image storage is reused after an image is freed: a new image still reads zero in every
+// cell, whatever the one before it held.
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "document/model/IconImage.h"
+
+namespace iw {
+namespace {
+
+bool AllZero(const IconImage& image) {
+    for (int plane : {IconImage::ColorPlane, IconImage::AlphaPlane}) {
+        for (std::int32_t cell : image.PlaneCells(plane)) {
+            if (cell != 0) return false;
+        }
+    }
+    return true;
+}
+
+TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
+    for (int round = 0; round < 3; ++round) {
+        std::vector<IconImage> images;
+        for (int i = 0; i < 40; ++i) {
+            images.emplace_back();
+            EXPECT_TRUE(AllZero(images.back())) << "round " << round << " image " << i;
+        }
+        for (std::size_t i = 0; i < images.size(); ++i) {
+            IconImage& image = images[i];
+            const int side = 1 + static_cast<int>(i * 37 % 200);
+            for (int y = 0; y < side; ++y) {
+                for (int x = 0; x < side; ++x) {
+                    image.Color(x, y) = x * 3 + y + 1;
+                    image.Alpha(x, y) = 255;
+                }
+            }
+            // A lone cell far from the drawn corner, and one only read.
+            image.At(255, 255, IconImage::AlphaPlane) = -1;
+            EXPECT_EQ(image.At(200, 3, IconImage::ColorPlane), 0);
+        }
+    }
+    IconImage full;
+    for (int plane : {IconImage::ColorPlane, IconImage::AlphaPlane}) {
+        for (std::int32_t& cell : full.PlaneCells(plane))
+            cell = 7;
+    }
+    IconImage clone = full.Clone();
+    full = IconImage();
+    clone = IconImage();
+    IconImage fresh;
+    EXPECT_TRUE(AllZero(fresh));
+    EXPECT_TRUE(AllZero(full));
+}
+
+}  // namespace
+}  // namespace iw
