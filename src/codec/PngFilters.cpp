@@ -252,6 +252,95 @@ bool UnfilterRows(std::uint8_t* data, std::size_t rows, std::size_t rowBytes, st
     return true;
 }
 
+namespace {
+
+#ifdef IW_PNG_FILTERS_SSE2
+
+inline __m128i Load16(const std::uint8_t* p) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+}
+inline void Store16(std::uint8_t* p, __m128i v) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v);
+}
+
+// Filtering needs only bytes of the original rows, so 16 bytes go at a time. Each returns
+// how many bytes it did from `start`; the caller finishes the rest byte by byte.
+std::size_t FilterSubWide(const std::uint8_t* row, std::size_t start, std::size_t count,
+                          std::size_t stride, std::uint8_t* out) {
+    std::size_t i = start;
+    for (; i + 16 <= count; i += 16)
+        Store16(out + i, _mm_sub_epi8(Load16(row + i), Load16(row + i - stride)));
+    return i;
+}
+
+std::size_t FilterUpWide(const std::uint8_t* row, const std::uint8_t* prior, std::size_t count,
+                         std::uint8_t* out) {
+    std::size_t i = 0;
+    for (; i + 16 <= count; i += 16)
+        Store16(out + i, _mm_sub_epi8(Load16(row + i), Load16(prior + i)));
+    return i;
+}
+
+std::size_t FilterAverageWide(const std::uint8_t* row, const std::uint8_t* prior, std::size_t start,
+                              std::size_t count, std::size_t stride, std::uint8_t* out) {
+    const __m128i one = _mm_set1_epi8(1);
+    std::size_t i = start;
+    for (; i + 16 <= count; i += 16) {
+        const __m128i a = Load16(row + i - stride);
+        const __m128i b = Load16(prior + i);
+        // floor((a + b) / 2): the rounded-up average less the carried low bit.
+        const __m128i average =
+            _mm_sub_epi8(_mm_avg_epu8(a, b), _mm_and_si128(_mm_xor_si128(a, b), one));
+        Store16(out + i, _mm_sub_epi8(Load16(row + i), average));
+    }
+    return i;
+}
+
+std::size_t FilterPaethWide(const std::uint8_t* row, const std::uint8_t* prior, std::size_t start,
+                            std::size_t count, std::size_t stride, std::uint8_t* out) {
+    const __m128i zero = _mm_setzero_si128();
+    std::size_t i = start;
+    for (; i + 16 <= count; i += 16) {
+        const __m128i a = Load16(row + i - stride);
+        const __m128i b = Load16(prior + i);
+        const __m128i c = Load16(prior + i - stride);
+        __m128i predicted[2];
+        for (int half = 0; half < 2; ++half) {
+            const __m128i a16 = half ? _mm_unpackhi_epi8(a, zero) : _mm_unpacklo_epi8(a, zero);
+            const __m128i b16 = half ? _mm_unpackhi_epi8(b, zero) : _mm_unpacklo_epi8(b, zero);
+            const __m128i c16 = half ? _mm_unpackhi_epi8(c, zero) : _mm_unpacklo_epi8(c, zero);
+            const __m128i threeCMinusB =
+                _mm_sub_epi16(_mm_add_epi16(_mm_add_epi16(c16, c16), c16), b16);
+            predicted[half] = PaethLanes(a16, b16, c16, threeCMinusB);
+        }
+        Store16(out + i,
+                _mm_sub_epi8(Load16(row + i), _mm_packus_epi16(predicted[0], predicted[1])));
+    }
+    return i;
+}
+
+#else
+
+std::size_t FilterSubWide(const std::uint8_t*, std::size_t start, std::size_t, std::size_t,
+                          std::uint8_t*) {
+    return start;
+}
+std::size_t FilterUpWide(const std::uint8_t*, const std::uint8_t*, std::size_t, std::uint8_t*) {
+    return 0;
+}
+std::size_t FilterAverageWide(const std::uint8_t*, const std::uint8_t*, std::size_t start,
+                              std::size_t, std::size_t, std::uint8_t*) {
+    return start;
+}
+std::size_t FilterPaethWide(const std::uint8_t*, const std::uint8_t*, std::size_t start,
+                            std::size_t, std::size_t, std::uint8_t*) {
+    return start;
+}
+
+#endif
+
+}  // namespace
+
 void FilterRow(std::uint8_t type, const std::uint8_t* row, const std::uint8_t* prior,
                std::size_t count, std::size_t stride, std::uint8_t* out) {
     // Bytes of the first pixel have no left neighbour (a = c = 0).
@@ -259,28 +348,30 @@ void FilterRow(std::uint8_t type, const std::uint8_t* row, const std::uint8_t* p
     switch (type) {
         case kFilterSub:
             std::memcpy(out, row, lead);
-            for (std::size_t i = lead; i < count; ++i) {
+            for (std::size_t i = FilterSubWide(row, lead, count, stride, out); i < count; ++i) {
                 out[i] = static_cast<std::uint8_t>(row[i] - row[i - stride]);
             }
             break;
         case kFilterUp:
-            for (std::size_t i = 0; i < count; ++i)
+            for (std::size_t i = FilterUpWide(row, prior, count, out); i < count; ++i)
                 out[i] = static_cast<std::uint8_t>(row[i] - prior[i]);
             break;
         case kFilterAverage:
             for (std::size_t i = 0; i < lead; ++i) {
                 out[i] = static_cast<std::uint8_t>(row[i] - (prior[i] >> 1));
             }
-            for (std::size_t i = lead; i < count; ++i) {
+            for (std::size_t i = FilterAverageWide(row, prior, lead, count, stride, out); i < count;
+                 ++i) {
                 out[i] = static_cast<std::uint8_t>(row[i] - ((row[i - stride] + prior[i]) >> 1));
             }
             break;
         case kFilterPaeth:
             for (std::size_t i = 0; i < lead; ++i)
                 out[i] = static_cast<std::uint8_t>(row[i] - prior[i]);
-            for (std::size_t i = lead; i < count; ++i) {
+            for (std::size_t i = FilterPaethWide(row, prior, lead, count, stride, out); i < count;
+                 ++i) {
                 out[i] = static_cast<std::uint8_t>(
-                    row[i] - PaethPredictor(row[i - stride], prior[i], prior[i - stride]));
+                    row[i] - PaethSelect(row[i - stride], prior[i], prior[i - stride]));
             }
             break;
         default:
