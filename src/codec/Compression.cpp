@@ -110,3 +110,24 @@ std::vector<std::uint8_t> ZlibCompress(std::span<const std::uint8_t> in) {
 }
 
 }  // namespace iw
+
+namespace iw {
+
+bool CanCompressFiltered() {
+    const ZlibLibrary* zlib = ProgramZlib();
+    return zlib && zlib->HasDeflateStrategies();
+}
+
+std::vector<std::uint8_t> ZlibCompressFiltered(std::span<const std::uint8_t> in) {
+    const ZlibLibrary* zlib = ProgramZlib();
+    if (!zlib || !zlib->HasDeflateStrategies()) return ZlibCompress(in);
+    std::vector<std::uint8_t> out(in.size() + in.size() / 8 + 64);
+    std::size_t produced = out.size();
+    if (zlib->CompressFiltered(out.data(), produced, in.data(), in.size()) != ZlibLibrary::kOk) {
+        return {};
+    }
+    out.resize(produced);
+    return out;
+}
+
+}  // namespace iw

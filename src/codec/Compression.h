@@ -46,6 +46,12 @@ InflateStatus ZlibDecompressInto(std::span<const std::uint8_t> in, std::span<std
 // A zlib stream of `in`: zlib's compress2 at level 9 (else compress) when loaded, else the
 // own deflate. Empty when the library's call failed (a zlib stream is never empty).
 std::vector<std::uint8_t> ZlibCompress(std::span<const std::uint8_t> in);
+// The same with zlib's filtered strategy where the loaded library offers it (see
+// ZlibLibrary::CompressFiltered); otherwise exactly ZlibCompress.
+std::vector<std::uint8_t> ZlibCompressFiltered(std::span<const std::uint8_t> in);
+// True when ZlibCompressFiltered makes a stream of its own (a loaded zlib with the calls
+// it needs), not the same one as ZlibCompress.
+bool CanCompressFiltered();
 
 // CRC-32 as PNG and zlib compute it (start with 0; feed pieces by passing the last
 // result). The program's own routine, whichever library is loaded.

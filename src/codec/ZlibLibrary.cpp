@@ -42,6 +42,10 @@ void ZlibLibrary::Forget() {
     compress_ = nullptr;
     uncompress_ = nullptr;
     crc32_ = nullptr;
+    deflateInit2_ = nullptr;
+    deflate_ = nullptr;
+    deflateEnd_ = nullptr;
+    zlibVersion_ = nullptr;
 }
 
 void ZlibLibrary::Unload() {
@@ -62,6 +66,12 @@ bool ZlibLibrary::Load(std::span<const std::string> names) {
         }
         compress_ = AddressAs<CompressFn>(dll_, "compress");
         uncompress_ = AddressAs<CompressFn>(dll_, "uncompress");
+        // Optional: without all four the filtered strategy falls back to compress2.
+        deflateInit2_ = AddressAs<DeflateInit2Fn>(dll_, "deflateInit2_");
+        deflate_ = AddressAs<DeflateFn>(dll_, "deflate");
+        deflateEnd_ = AddressAs<DeflateEndFn>(dll_, "deflateEnd");
+        zlibVersion_ = AddressAs<VersionFn>(dll_, "zlibVersion");
+        if (!zlibVersion_) deflateInit2_ = nullptr;
         name_ = names[i];
         versionMark_ = static_cast<int>(names.size() - i);
         return true;
@@ -83,6 +93,32 @@ int ZlibLibrary::Compress(std::uint8_t* dest, std::size_t& destLen, const std::u
     }
     destLen = len;
     return result;
+}
+
+int ZlibLibrary::CompressFiltered(std::uint8_t* dest, std::size_t& destLen,
+                                  const std::uint8_t* source, std::size_t sourceLen) const {
+    if (!HasDeflateStrategies()) return Compress(dest, destLen, source, sourceLen);
+    // One call with all the input and all the room: the lengths must fit zlib's 32 bits.
+    if (destLen > std::numeric_limits<unsigned int>::max() ||
+        sourceLen > std::numeric_limits<unsigned int>::max()) {
+        return kBufError;
+    }
+    constexpr int kDeflated = 8, kWindowBits = 15, kMemLevel = 8, kFiltered = 1;
+    constexpr int kFinish = 4, kStreamEnd = 1;
+    Stream stream{};
+    int result = deflateInit2_(&stream, 9, kDeflated, kWindowBits, kMemLevel, kFiltered,
+                               zlibVersion_(), static_cast<int>(sizeof(Stream)));
+    if (result != kOk) return result;
+    stream.nextIn = source;
+    stream.availIn = static_cast<unsigned int>(sourceLen);
+    stream.nextOut = dest;
+    stream.availOut = static_cast<unsigned int>(destLen);
+    result = deflate_(&stream, kFinish);
+    const std::size_t produced = static_cast<std::size_t>(stream.nextOut - dest);
+    deflateEnd_(&stream);
+    if (result != kStreamEnd) return result == kOk ? kBufError : result;
+    destLen = produced;
+    return kOk;
 }
 
 int ZlibLibrary::Uncompress(std::uint8_t* dest, std::size_t& destLen, const std::uint8_t* source,
