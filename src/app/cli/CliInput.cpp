@@ -8,6 +8,7 @@
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "document/io/PictureImport.h"
+#include "services/core/AtomicFile.h"
 
 namespace iw::cli {
 namespace {
@@ -40,6 +41,14 @@ bool StartsWithPngSignature(const std::string& path) {
 bool LoadPicture(const std::string& path, c32bppDIB& picture) {
     if (!picture.LoadPicture_File(path)) {
         std::cerr << "iconwright-cli: " << path << ": not a PNG picture that can be read\n";
+        return false;
+    }
+    return true;
+}
+
+bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream) {
+    if (stream.empty() || !WriteFileAtomically(file, std::as_bytes(std::span(stream)))) {
+        std::cerr << "iconwright-cli: " << file << ": could not be written\n";
         return false;
     }
     return true;

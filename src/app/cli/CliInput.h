@@ -17,6 +17,9 @@ bool StartsWithPngSignature(const std::string& path);
 // A PNG picture (any size) through our codec; prints the reason on failure.
 bool LoadPicture(const std::string& path, c32bppDIB& picture);
 
+// Writes a PNG stream as the whole of `file`; prints the reason on failure.
+bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream);
+
 // An icon, cursor or animated cursor, or a PNG picture as one 32-bit image.
 bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context);
 

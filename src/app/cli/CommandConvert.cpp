@@ -4,7 +4,6 @@
 
 #include "CliInput.h"
 #include "Commands.h"
-#include "services/core/AtomicFile.h"
 
 namespace iw::cli {
 namespace {
@@ -32,12 +31,8 @@ int ConvertPicture(const std::string& in, const std::string& out) {
     c32bppDIB picture;
     if (!LoadPicture(in, picture)) return kExitFailed;
     std::vector<std::uint8_t> stream;
-    if (!picture.SaveToStream_PNG(stream) ||
-        !WriteFileAtomically(out, std::as_bytes(std::span(stream)))) {
-        std::cerr << "iconwright-cli: " << out << ": could not be written\n";
-        return kExitFailed;
-    }
-    return kExitOk;
+    picture.SaveToStream_PNG(stream);
+    return WritePngFile(out, stream) ? kExitOk : kExitFailed;
 }
 
 }  // namespace

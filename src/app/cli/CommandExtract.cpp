@@ -5,8 +5,8 @@
 
 #include "CliInput.h"
 #include "Commands.h"
+#include "codec/PngCodec.h"
 #include "document/io/ImageRgba.h"
-#include "services/core/AtomicFile.h"
 
 namespace iw::cli {
 namespace {
@@ -17,16 +17,6 @@ constexpr std::string_view kHelp =
     "file shows it (a PNG picture given as FILE is one image). DIR is made when missing.\n"
     "\n"
     "Exit status: 0 written, 1 FILE could not be read or a picture not written, 2 usage error.\n";
-
-bool SavePicture(const c32bppDIB& picture, const std::filesystem::path& file) {
-    std::vector<std::uint8_t> stream;
-    if (!picture.SaveToStream_PNG(stream) ||
-        !WriteFileAtomically(file, std::as_bytes(std::span(stream)))) {
-        std::cerr << "iconwright-cli: " << file.string() << ": could not be written\n";
-        return false;
-    }
-    return true;
-}
 
 }  // namespace
 
@@ -51,16 +41,19 @@ int RunExtract(const Args& args) {
 
     if (StartsWithPngSignature(files[0])) {
         c32bppDIB picture;
+        std::vector<std::uint8_t> stream;
         if (!LoadPicture(files[0], picture)) return kExitFailed;
-        return SavePicture(picture, dir / "0.png") ? kExitOk : kExitFailed;
+        picture.SaveToStream_PNG(stream);
+        return WritePngFile((dir / "0.png").string(), stream) ? kExitOk : kExitFailed;
     }
     CliContext context;
     IconSet set;
     if (!LoadInputSet(files[0], set, context)) return kExitFailed;
     for (int i = 0; i < set.Count(); ++i) {
-        c32bppDIB picture;
-        if (!ImageToPicture(set.Image(i), picture) ||
-            !SavePicture(picture, dir / (std::to_string(i) + ".png"))) {
+        const IconImage& image = set.Image(i);
+        std::vector<std::uint8_t> stream;
+        EncodePngStream(image.info.Width(), image.info.Height(), ImageToRgba(image), stream);
+        if (!WritePngFile((dir / (std::to_string(i) + ".png")).string(), stream)) {
             return kExitFailed;
         }
     }

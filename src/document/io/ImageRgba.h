@@ -5,7 +5,6 @@
 #include <span>
 #include <vector>
 
-#include "codec/c32bppDIB.h"
 #include "document/model/IconImage.h"
 
 namespace iw {
@@ -15,13 +14,5 @@ namespace iw {
 // (255, 255, 255) for an inverting one; for other depths a transparent pixel is
 // (0, 0, 0, 0), an inverting one (255, 255, 255, 0) and every other pixel is opaque.
 std::vector<std::uint8_t> ImageToRgba(const IconImage& image);
-
-// Copies RGBA pixels into the planes: the colour into plane 0, the alpha into plane 1.
-// `rgba` holds width x height x 4 bytes; width and height must be 1 to 256.
-void RgbaToImage(std::span<const std::uint8_t> rgba, int width, int height, IconImage& image);
-
-// The image as it shows (see ImageToRgba) in a new 32-bit picture with alpha; false when
-// the picture cannot be made.
-bool ImageToPicture(const IconImage& image, c32bppDIB& picture);
 
 }  // namespace iw

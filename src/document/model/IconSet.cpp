@@ -41,13 +41,6 @@ void IconSet::RemoveIcon(int index) {
     images_.erase(images_.begin() + index);
 }
 
-void IconSet::MoveIcon(int from, int to) {
-    if (from < 0 || from >= Count() || to < 0 || to >= Count() || from == to) return;
-    IconImage moving = std::move(images_[static_cast<std::size_t>(from)]);
-    images_.erase(images_.begin() + from);
-    images_.insert(images_.begin() + to, std::move(moving));
-}
-
 void IconSet::Clear() {
     images_.clear();
 }

@@ -51,7 +51,6 @@ class IconSet {
     // Inserts an already-made image at `index` (0..Count()); -1 when full.
     int InsertIcon(int index, IconImage image);
     void RemoveIcon(int index);
-    void MoveIcon(int from, int to);
 
     // Erases every image. The properties, mode and file name stay as they are: the
     // document lifecycle decides what a fresh set looks like.
