@@ -14,17 +14,6 @@
 
 namespace iw {
 
-// Channel extraction by shifting, so the top byte of a packed value never leaks in.
-constexpr int ChannelRed(PackedColor c) {
-    return c & 0xFF;
-}
-constexpr int ChannelGreen(PackedColor c) {
-    return (c >> 8) & 0xFF;
-}
-constexpr int ChannelBlue(PackedColor c) {
-    return (c >> 16) & 0xFF;
-}
-
 // A channel's level among the sixteen colours: 255 from 192 up, 128 from 81 to 191,
 // 0 up to 80.
 constexpr int Quantize16Channel(int channel) {
@@ -33,13 +22,13 @@ constexpr int Quantize16Channel(int channel) {
     return 0;
 }
 constexpr int Quantize16Red(PackedColor c) {
-    return Quantize16Channel(ChannelRed(c));
+    return Quantize16Channel(RedOf(c));
 }
 constexpr int Quantize16Green(PackedColor c) {
-    return Quantize16Channel(ChannelGreen(c));
+    return Quantize16Channel(GreenOf(c));
 }
 constexpr int Quantize16Blue(PackedColor c) {
-    return Quantize16Channel(ChannelBlue(c));
+    return Quantize16Channel(BlueOf(c));
 }
 
 namespace detail {
@@ -106,9 +95,9 @@ constexpr bool InSilverBand(int channel) {
 // One of the sixteen standard colours (see StandardColors.h).
 constexpr PackedColor ConvertTo16Color(PackedColor color) {
     if (IsMarker(color)) return color;
-    const int red = ChannelRed(color);
-    const int green = ChannelGreen(color);
-    const int blue = ChannelBlue(color);
+    const int red = RedOf(color);
+    const int green = GreenOf(color);
+    const int blue = BlueOf(color);
     // Pale, unsaturated colours are silver whatever their levels say.
     if (detail::InSilverBand(red) && detail::InSilverBand(green) && detail::InSilverBand(blue)) {
         return PackColor(192, 192, 192);
@@ -123,15 +112,14 @@ constexpr PackedColor ConvertTo16Color(PackedColor color) {
 // rounded with halves to even, is at least 128 (red + green + blue >= 383).
 constexpr PackedColor ConvertToMonoColor(PackedColor color) {
     if (IsMarker(color)) return color;
-    const int sum = ChannelRed(color) + ChannelGreen(color) + ChannelBlue(color);
+    const int sum = RedOf(color) + GreenOf(color) + BlueOf(color);
     return RoundHalfEven(sum, 3) >= 128 ? PackColor(255, 255, 255) : PackColor(0, 0, 0);
 }
 
 // |dR| + |dG| + |dB|, 0..765. No weighting of the channels.
 constexpr int ColorDistance(PackedColor a, PackedColor b) {
     auto diff = [](int x, int y) { return x > y ? x - y : y - x; };
-    return diff(ChannelRed(a), ChannelRed(b)) + diff(ChannelGreen(a), ChannelGreen(b)) +
-           diff(ChannelBlue(a), ChannelBlue(b));
+    return diff(RedOf(a), RedOf(b)) + diff(GreenOf(a), GreenOf(b)) + diff(BlueOf(a), BlueOf(b));
 }
 
 }  // namespace iw

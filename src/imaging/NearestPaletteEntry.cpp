@@ -13,9 +13,9 @@ NearestPaletteEntry::NearestPaletteEntry(const std::vector<PackedColor>& palette
     blue_.fill(kFarAway);
     for (int k = 0; k < count_; ++k) {
         const PackedColor c = palette[static_cast<std::size_t>(k)];
-        red_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(ChannelRed(c));
-        green_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(ChannelGreen(c));
-        blue_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(ChannelBlue(c));
+        red_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(RedOf(c));
+        green_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(GreenOf(c));
+        blue_[static_cast<std::size_t>(k)] = static_cast<std::int16_t>(BlueOf(c));
     }
 }
 

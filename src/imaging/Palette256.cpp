@@ -85,9 +85,9 @@ Palette256Result PaletteBuilder::Finish() {
     for (int k = 0; k < Palette256Result::kEntries; ++k) {
         const PackedColor c = palette_[static_cast<std::size_t>(k)];
         const auto at = static_cast<std::size_t>(k) * 4;
-        result.paletteBytes[at + 0] = static_cast<std::uint8_t>(ChannelBlue(c));
-        result.paletteBytes[at + 1] = static_cast<std::uint8_t>(ChannelGreen(c));
-        result.paletteBytes[at + 2] = static_cast<std::uint8_t>(ChannelRed(c));
+        result.paletteBytes[at + 0] = static_cast<std::uint8_t>(BlueOf(c));
+        result.paletteBytes[at + 1] = static_cast<std::uint8_t>(GreenOf(c));
+        result.paletteBytes[at + 2] = static_cast<std::uint8_t>(RedOf(c));
         result.paletteBytes[at + 3] = 0;
     }
 

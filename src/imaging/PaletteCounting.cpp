@@ -69,9 +69,9 @@ void PaletteBuilder::CountPaletteColors() {
 void PaletteBuilder::CountingPass(int step) {
     const std::array<int, 256> coarse = CoarseningTable(step);
     CollectColors([&coarse](PackedColor c) {
-        return coarse[static_cast<std::size_t>(ChannelRed(c))] +
-               256 * coarse[static_cast<std::size_t>(ChannelGreen(c))] +
-               65536 * coarse[static_cast<std::size_t>(ChannelBlue(c))];
+        return coarse[static_cast<std::size_t>(RedOf(c))] +
+               256 * coarse[static_cast<std::size_t>(GreenOf(c))] +
+               65536 * coarse[static_cast<std::size_t>(BlueOf(c))];
     });
 }
 

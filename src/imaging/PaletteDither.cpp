@@ -51,7 +51,7 @@ void DitherToPalette(std::span<PackedColor> image, int width, int height,
     std::vector<Channels> buffer(image.size());
     for (std::size_t at = 0; at < image.size(); ++at) {
         const PackedColor c = image[at];
-        buffer[at] = {ChannelRed(c), ChannelGreen(c), ChannelBlue(c)};
+        buffer[at] = {RedOf(c), GreenOf(c), BlueOf(c)};
     }
 
     auto spread = [&](int x, int y, const Channels& error, int share) {
@@ -73,9 +73,8 @@ void DitherToPalette(std::span<PackedColor> image, int width, int height,
             if (entry < 0) continue;
             const PackedColor chosen = palette[static_cast<std::size_t>(entry)];
             image[at] = chosen;
-            const Channels error = {wanted.red - ChannelRed(chosen),
-                                    wanted.green - ChannelGreen(chosen),
-                                    wanted.blue - ChannelBlue(chosen)};
+            const Channels error = {wanted.red - RedOf(chosen), wanted.green - GreenOf(chosen),
+                                    wanted.blue - BlueOf(chosen)};
             spread(x + 1, y, error, kShareRight);
             spread(x - 1, y + 1, error, kShareLowerLeft);
             spread(x, y + 1, error, kShareBelow);

@@ -14,8 +14,8 @@ constexpr long kMostSweeps = 16'777'216;
 
 // The channels' integer halves of the two entries' sums.
 PackedColor MergedColor(PackedColor a, PackedColor b) {
-    return PackColor((ChannelRed(a) + ChannelRed(b)) / 2, (ChannelGreen(a) + ChannelGreen(b)) / 2,
-                     (ChannelBlue(a) + ChannelBlue(b)) / 2);
+    return PackColor((RedOf(a) + RedOf(b)) / 2, (GreenOf(a) + GreenOf(b)) / 2,
+                     (BlueOf(a) + BlueOf(b)) / 2);
 }
 
 // True when any of the kBlock entries from `block` lies closer than `threshold` to
@@ -23,14 +23,14 @@ PackedColor MergedColor(PackedColor a, PackedColor b) {
 // the merging uses it to step over blocks in which nothing can merge.
 constexpr int kBlock = 16;
 bool AnyCloser(const PackedColor* block, PackedColor color, int threshold) {
-    const int red = ChannelRed(color);
-    const int green = ChannelGreen(color);
-    const int blue = ChannelBlue(color);
+    const int red = RedOf(color);
+    const int green = GreenOf(color);
+    const int blue = BlueOf(color);
     int closer = 0;
     for (int k = 0; k < kBlock; ++k) {
-        const int dr = ChannelRed(block[k]) - red;
-        const int dg = ChannelGreen(block[k]) - green;
-        const int db = ChannelBlue(block[k]) - blue;
+        const int dr = RedOf(block[k]) - red;
+        const int dg = GreenOf(block[k]) - green;
+        const int db = BlueOf(block[k]) - blue;
         const int distance = (dr < 0 ? -dr : dr) + (dg < 0 ? -dg : dg) + (db < 0 ? -db : db);
         closer |= distance < threshold ? 1 : 0;
     }

@@ -18,14 +18,16 @@ inline constexpr bool IsMarker(PackedColor c) {
     return c == TransparentColor || c == InverseColor;
 }
 
+// Channels by shifting, so the top byte of a packed value never leaks in (the same as
+// dividing by 256 and 65536 for every real colour).
 inline constexpr int RedOf(PackedColor c) {
     return c & 0xFF;
 }
 inline constexpr int GreenOf(PackedColor c) {
-    return (c / 256) & 0xFF;
+    return (c >> 8) & 0xFF;
 }
 inline constexpr int BlueOf(PackedColor c) {
-    return (c / 65536) & 0xFF;
+    return (c >> 16) & 0xFF;
 }
 
 // Recomposes a colour; a channel above 255 is taken as 255 (and one below 0 as 0).
