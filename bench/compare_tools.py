@@ -81,9 +81,8 @@ def main():
         subprocess.run([cli, "pack", bmp175, *[f"{m}:{depths[(i // 5) % 4]}" for i, m in enumerate(many)]], check=True)
         result = subprocess.run([bench, "--benchmark_filter=BM_Read175BitmapIcon", "--benchmark_format=json",
                                  "--benchmark_min_time=0.5"], check=True, capture_output=True, text=True)
-        ours = json.loads(result.stdout)["benchmarks"][0]["real_time"] / 1e6  # ms -> s
-        if json.loads(result.stdout)["benchmarks"][0]["time_unit"] == "us":
-            ours = json.loads(result.stdout)["benchmarks"][0]["real_time"] / 1e6
+        measured = json.loads(result.stdout)["benchmarks"][0]
+        ours = measured["real_time"] / {"ns": 1e9, "us": 1e6, "ms": 1e3, "s": 1.0}[measured["time_unit"]]
 
         def pillow_read():
             im = Image.open(bmp175)
