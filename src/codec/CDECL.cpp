@@ -1,38 +1,10 @@
 #include "codec/CDECL.h"
 
-#if defined(_WIN32)
-#include <windows.h>
-#else
-#include <dlfcn.h>
-#endif
+#include "platform/DynamicLibrary.h"
 
 namespace iw {
 
 namespace {
-
-void* OpenLibrary(const std::string& name) {
-#if defined(_WIN32)
-    return reinterpret_cast<void*>(LoadLibraryA(name.c_str()));
-#else
-    return dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
-#endif
-}
-
-void CloseLibrary(void* handle) {
-#if defined(_WIN32)
-    FreeLibrary(reinterpret_cast<HMODULE>(handle));
-#else
-    dlclose(handle);
-#endif
-}
-
-void* LookUp(void* handle, const std::string& name) {
-#if defined(_WIN32)
-    return reinterpret_cast<void*>(GetProcAddress(reinterpret_cast<HMODULE>(handle), name.c_str()));
-#else
-    return dlsym(handle, name.c_str());
-#endif
-}
 
 using Arg = std::uintptr_t;
 using Fn0 = Arg (*)();
@@ -50,18 +22,18 @@ cCDECL::~cCDECL() {
 
 bool cCDECL::DllLoad(const std::string& name) {
     DllUnload();
-    handle_ = OpenLibrary(name);
+    handle_ = platform::OpenLibrary(name);
     lastError_ = handle_ ? 0 : kErrDllNotLoaded;
     return handle_ != nullptr;
 }
 
 void cCDECL::DllUnload() {
-    if (handle_) CloseLibrary(handle_);
+    platform::CloseLibrary(handle_);
     handle_ = nullptr;
 }
 
 void* cCDECL::FunctionAddress(const std::string& name) const {
-    return handle_ ? LookUp(handle_, name) : nullptr;
+    return platform::FindSymbol(handle_, name);
 }
 
 void cCDECL::Raise(std::uint32_t number, std::string description) {
@@ -72,7 +44,7 @@ void cCDECL::Raise(std::uint32_t number, std::string description) {
 std::uintptr_t cCDECL::CallFunc(const std::string& name, std::span<const std::uintptr_t> args) {
     if (!handle_) Raise(kErrDllNotLoaded, "DLL not loaded");
     if (args.size() > kMaxParameters) Raise(kErrTooManyParameters, "Too many parameters");
-    void* address = LookUp(handle_, name);
+    void* address = platform::FindSymbol(handle_, name);
     if (!address) Raise(kErrFunctionNotFound, "Failed to locate function: " + name);
     lastError_ = 0;
     const Arg* a = args.data();

@@ -1,16 +1,14 @@
 #pragma once
-// Positioned reads on a C file, with 64-bit offsets on every platform.
+// Positioned reads on a C file, with 64-bit offsets on every platform (see
+// platform/FileStreams.h for the file's length).
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <optional>
 #include <vector>
 
 namespace iw {
 
-// The file's size in bytes; nullopt when it cannot be found (not seekable).
-std::optional<std::uint64_t> FileSize(std::FILE* file);
 // Reads exactly `count` bytes at `position`; false on a seek error or a short read.
 bool ReadAt(std::FILE* file, std::uint64_t position, void* buffer, std::size_t count);
 

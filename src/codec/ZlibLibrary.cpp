@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "codec/Compression.h"
+#include "platform/DynamicLibrary.h"
 
 namespace iw {
 
@@ -26,13 +27,7 @@ bool FitsULong(std::size_t n) {
 }  // namespace
 
 std::vector<std::string> ZlibLibrary::DefaultNames() {
-#if defined(_WIN32)
-    return {"zlib1.dll", "zlib.dll"};
-#elif defined(__APPLE__)
-    return {"libz.1.dylib", "libz.dylib"};
-#else
-    return {"libz.so.1", "libz.so"};
-#endif
+    return platform::SystemZlibNames();
 }
 
 void ZlibLibrary::Forget() {

@@ -9,6 +9,7 @@
 #include "codec/cGDIPlus.h"
 #include "codec/cPNGParser.h"
 #include "codec/cPNGWriter.h"
+#include "platform/FileStreams.h"
 
 namespace iw {
 
@@ -130,12 +131,7 @@ bool c32bppDIB::LoadPicture_Stream(std::span<const std::uint8_t> bytes, bool kee
 bool c32bppDIB::LoadPicture_File(const std::filesystem::path& file, bool keepOriginal,
                                  const DecodeLimits& limits) {
     DestroyDIB();
-    std::FILE* handle = nullptr;
-#ifdef _WIN32
-    handle = _wfopen(file.c_str(), L"rb");
-#else
-    handle = std::fopen(file.c_str(), "rb");
-#endif
+    std::FILE* handle = platform::OpenForReading(file);
     if (!handle) return false;
     bool loaded = false;
     if (keepOriginal) {

@@ -12,6 +12,7 @@
 #include "codec/PngFilters.h"
 #include "codec/c32bppDIB.h"
 #include "codec/cGDIPlus.h"
+#include "platform/FileStreams.h"
 
 namespace iw {
 
@@ -28,6 +29,8 @@ class cPNGParser::ChunkSource {
     // view stays valid until the next call. The caller has checked that the chunk fits.
     virtual bool ReadChunk(std::uint64_t position, std::uint32_t length,
                            std::span<const std::uint8_t>& typeAndData, std::uint32_t& crc) = 0;
+    // Hands the whole PNG to the platform's decoder; true when it produced the image.
+    virtual bool OfferTo(cGDIPlus& decoder, c32bppDIB& target, const DecodeLimits& limits) = 0;
 };
 
 namespace {
@@ -56,6 +59,9 @@ class MemoryChunks final : public cPNGParser::ChunkSource {
         crc = LoadBE32(data_.data() + start + bytes);
         return true;
     }
+    bool OfferTo(cGDIPlus& decoder, c32bppDIB& target, const DecodeLimits& limits) override {
+        return decoder.LoadPictureStream(data_, target, limits);
+    }
 
   private:
     std::span<const std::uint8_t> data_;
@@ -83,6 +89,9 @@ class FileChunks final : public cPNGParser::ChunkSource {
         typeAndData = std::span<const std::uint8_t>(work_).first(static_cast<std::size_t>(bytes));
         crc = LoadBE32(work_.data() + bytes);
         return true;
+    }
+    bool OfferTo(cGDIPlus& decoder, c32bppDIB& target, const DecodeLimits& limits) override {
+        return decoder.LoadPictureFile(file_, target, limits);
     }
 
   private:
@@ -166,12 +175,6 @@ bool cPNGParser::LoadStream(std::span<const std::uint8_t> bytes, std::size_t sta
         target.DestroyDIB();
         return false;
     }
-    cGDIPlus gdiPlus;
-    if (gdiPlus.LoadPictureStream(data, target, limits)) {
-        width = target.Width();
-        height = target.Height();
-        return true;
-    }
     MemoryChunks source(data);
     return Run(source, target, width, height, limits);
 }
@@ -190,9 +193,9 @@ bool cPNGParser::LoadStream(std::span<const std::uint8_t> bytes, std::size_t sta
         error_ = data.size() < 8 ? PngError::TooShort : PngError::BadSignature;
         return false;
     }
-    cGDIPlus gdiPlus;
+    MemoryChunks source(data);
     c32bppDIB decoded;
-    if (gdiPlus.LoadPictureStream(data, decoded, limits)) {
+    if (TryPlatformDecoder(source, decoded, limits)) {
         if (!CopyRows(decoded, sink)) {
             error_ = PngError::OutOfMemory;
             return false;
@@ -201,7 +204,6 @@ bool cPNGParser::LoadStream(std::span<const std::uint8_t> bytes, std::size_t sta
         height = decoded.Height();
         return true;
     }
-    MemoryChunks source(data);
     if (!Run(source, sink, limits)) return false;
     width = static_cast<std::int32_t>(header_.width);
     height = static_cast<std::int32_t>(header_.height);
@@ -213,7 +215,7 @@ bool cPNGParser::LoadFile(std::FILE* file, c32bppDIB& target, std::int32_t& widt
     Reset();
     width = height = 0;
     target.DestroyDIB();
-    const auto size = file ? FileSize(file) : std::nullopt;
+    const auto size = file ? platform::LengthOf(file) : std::nullopt;
     if (!size) {
         error_ = PngError::ReadFailed;
         return false;
@@ -233,18 +235,23 @@ bool cPNGParser::LoadFile(std::FILE* file, c32bppDIB& target, std::int32_t& widt
         error_ = PngError::BadSignature;
         return false;
     }
-    cGDIPlus gdiPlus;
-    if (gdiPlus.LoadPictureFile(file, target, limits)) {
-        width = target.Width();
-        height = target.Height();
-        return true;
-    }
     FileChunks source(file, *size);
     return Run(source, target, width, height, limits);
 }
 
+bool cPNGParser::TryPlatformDecoder(ChunkSource& source, c32bppDIB& target,
+                                    const DecodeLimits& limits) {
+    cGDIPlus decoder;
+    return source.OfferTo(decoder, target, limits);
+}
+
 bool cPNGParser::Run(ChunkSource& source, c32bppDIB& target, std::int32_t& width,
                      std::int32_t& height, const DecodeLimits& limits) {
+    if (TryPlatformDecoder(source, target, limits)) {
+        width = target.Width();
+        height = target.Height();
+        return true;
+    }
     DibRows rows(target);
     if (!Run(source, rows, limits)) {
         target.DestroyDIB();

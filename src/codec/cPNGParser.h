@@ -20,6 +20,7 @@
 namespace iw {
 
 class c32bppDIB;
+class cGDIPlus;
 
 class cPNGParser {
   public:
@@ -54,6 +55,10 @@ class cPNGParser {
     class ChunkSource;
 
   private:
+    // The platform's decoder (cGDIPlus) gets the first try at every image; where there is
+    // none it declines and the chunks are parsed here.
+    bool TryPlatformDecoder(ChunkSource& source, c32bppDIB& target, const DecodeLimits& limits);
+    // Into an image object: the platform's decoder, else the own parse.
     bool Run(ChunkSource& source, c32bppDIB& target, std::int32_t& width, std::int32_t& height,
              const DecodeLimits& limits);
     bool Run(ChunkSource& source, png::RowSink& sink, const DecodeLimits& limits);

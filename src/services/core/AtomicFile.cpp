@@ -1,15 +1,9 @@
 #include "services/core/AtomicFile.h"
 
 #include <atomic>
-#include <cerrno>
 #include <chrono>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+#include "platform/FileReplacement.h"
 
 namespace iw {
 namespace {
@@ -25,15 +19,6 @@ std::filesystem::path TempNameBeside(const std::filesystem::path& target, int at
     return target.parent_path() / name;
 }
 
-bool FlushToDisk(std::FILE* file) {
-    if (std::fflush(file) != 0) return false;
-#ifdef _WIN32
-    return _commit(_fileno(file)) == 0;
-#else
-    return fsync(fileno(file)) == 0;
-#endif
-}
-
 }  // namespace
 
 AtomicFile::~AtomicFile() {
@@ -47,18 +32,13 @@ bool AtomicFile::Open(const std::filesystem::path& target) {
     written_ = 0;
     for (int attempt = 0; attempt < 16; ++attempt) {
         std::filesystem::path candidate = TempNameBeside(target, attempt);
-#ifdef _WIN32
-        file_ = _wfopen(candidate.c_str(), L"wbx");
-#else
-        int fd = ::open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        file_ = fd >= 0 ? ::fdopen(fd, "wb") : nullptr;
-        if (fd >= 0 && !file_) ::close(fd);
-#endif
+        bool nameTaken = false;
+        file_ = platform::CreateNewFile(candidate, nameTaken);
         if (file_) {
             temp_ = candidate;
             return true;
         }
-        if (errno != EEXIST) break;
+        if (!nameTaken) break;
     }
     failed_ = true;
     return false;
@@ -87,7 +67,7 @@ bool AtomicFile::Commit() {
         Discard();
         return false;
     }
-    bool ok = FlushToDisk(file_);
+    bool ok = platform::FlushToDisk(file_);
     ok = (std::fclose(file_) == 0) && ok;
     file_ = nullptr;
     if (!ok) {

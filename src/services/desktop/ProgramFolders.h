@@ -3,10 +3,12 @@
 
 #include <filesystem>
 
+#include "platform/ExecutableFolder.h"
+
 namespace iw {
 
 // The folder of the running executable; empty when it cannot be found.
-std::filesystem::path ExecutableFolder();
+using platform::ExecutableFolder;
 
 // The program's read-only templates: "Templates" beside the executable (a build tree), else
 // the installed data folder "share/iconwright/Templates" next to the executable's "bin".
