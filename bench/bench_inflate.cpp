@@ -10,8 +10,8 @@
 #include <string>
 
 #include "../tests/codec/CompressionSamples.h"
-#include "codec/Deflate.h"
-#include "codec/Inflate.h"
+#include "codec/zlib/Deflate.h"
+#include "codec/zlib/Inflate.h"
 
 namespace {
 

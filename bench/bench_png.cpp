@@ -16,12 +16,12 @@
 #include <string>
 #include <vector>
 
-#include "codec/Compression.h"
-#include "codec/PngCodec.h"
-#include "codec/PngColorAnalysis.h"
-#include "codec/PngFilterStrategy.h"
-#include "codec/c32bppDIB.h"
-#include "codec/cPNGWriter.h"
+#include "codec/png/PngCodec.h"
+#include "codec/png/PngColorAnalysis.h"
+#include "codec/png/PngFilterStrategy.h"
+#include "codec/png/c32bppDIB.h"
+#include "codec/png/cPNGWriter.h"
+#include "codec/zlib/Compression.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "codec/Inflate.h"
+#include "codec/zlib/Inflate.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size < 1) return 0;

@@ -10,9 +10,9 @@
 #include <span>
 #include <vector>
 
-#include "codec/Compression.h"
-#include "codec/PngCodec.h"
-#include "codec/c32bppDIB.h"
+#include "codec/png/PngCodec.h"
+#include "codec/png/c32bppDIB.h"
+#include "codec/zlib/Compression.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;

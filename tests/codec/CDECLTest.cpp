@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "codec/CDECL.h"
+#include "codec/zlib/CDECL.h"
 
 namespace iw {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "CompressionSamples.h"
-#include "codec/Compression.h"
+#include "codec/zlib/Checksums.h"
 
 namespace iw {
 namespace {

@@ -5,9 +5,9 @@
 #include <zlib.h>
 
 #include "CompressionSamples.h"
-#include "codec/Deflate.h"
-#include "codec/DeflateHuffman.h"
-#include "codec/Inflate.h"
+#include "codec/zlib/Deflate.h"
+#include "codec/zlib/DeflateHuffman.h"
+#include "codec/zlib/Inflate.h"
 
 namespace iw {
 namespace {

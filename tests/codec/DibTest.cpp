@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "PngTestHelpers.h"
-#include "codec/c32bppDIB.h"
+#include "codec/png/c32bppDIB.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {

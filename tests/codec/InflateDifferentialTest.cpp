@@ -7,8 +7,8 @@
 #include <filesystem>
 
 #include "CompressionSamples.h"
-#include "codec/Deflate.h"
-#include "codec/Inflate.h"
+#include "codec/zlib/Deflate.h"
+#include "codec/zlib/Inflate.h"
 #include "support/TestSupport.h"
 
 namespace iw {

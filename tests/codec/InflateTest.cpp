@@ -6,7 +6,8 @@
 #include <span>
 #include <string>
 
-#include "codec/Inflate.h"
+#include "codec/zlib/Checksums.h"
+#include "codec/zlib/Inflate.h"
 
 namespace iw {
 namespace {

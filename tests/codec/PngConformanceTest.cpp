@@ -11,7 +11,7 @@
 #include <string>
 
 #include "PngTestHelpers.h"
-#include "codec/Compression.h"
+#include "codec/zlib/Compression.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {

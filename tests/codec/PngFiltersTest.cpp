@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "CompressionSamples.h"
-#include "codec/PngFilterStrategy.h"
-#include "codec/PngFilters.h"
-#include "codec/PngFormat.h"
+#include "codec/png/PngFilterStrategy.h"
+#include "codec/png/PngFilters.h"
+#include "codec/png/PngFormat.h"
 
 namespace iw::png {
 namespace {

@@ -8,8 +8,8 @@
 #include <optional>
 
 #include "PngTestHelpers.h"
-#include "codec/Compression.h"
-#include "codec/cPNGParser.h"
+#include "codec/png/cPNGParser.h"
+#include "codec/zlib/Compression.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {

@@ -7,13 +7,13 @@
 #include <random>
 #include <vector>
 
-#include "codec/Compression.h"
-#include "codec/PngChunkWriter.h"
-#include "codec/PngCodec.h"
-#include "codec/PngFilters.h"
-#include "codec/PngFormat.h"
-#include "codec/PngPixels.h"
-#include "codec/c32bppDIB.h"
+#include "codec/png/PngChunkWriter.h"
+#include "codec/png/PngCodec.h"
+#include "codec/png/PngFilters.h"
+#include "codec/png/PngFormat.h"
+#include "codec/png/PngPixels.h"
+#include "codec/png/c32bppDIB.h"
+#include "codec/zlib/Compression.h"
 
 namespace iw::png {
 namespace {

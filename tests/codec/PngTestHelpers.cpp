@@ -3,8 +3,9 @@
 #include <array>
 #include <random>
 
-#include "codec/Compression.h"
-#include "codec/PngCodec.h"
+#include "codec/png/PngCodec.h"
+#include "codec/zlib/Checksums.h"
+#include "codec/zlib/Compression.h"
 
 namespace iw::test {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "codec/c32bppDIB.h"
+#include "codec/png/c32bppDIB.h"
 
 namespace iw::test {
 

@@ -9,9 +9,9 @@
 #include <string>
 
 #include "PngTestHelpers.h"
-#include "codec/Compression.h"
-#include "codec/PngChunkWriter.h"
-#include "codec/PngCodec.h"
+#include "codec/png/PngChunkWriter.h"
+#include "codec/png/PngCodec.h"
+#include "codec/zlib/Compression.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {

@@ -8,10 +8,11 @@
 #include <string>
 
 #include "CompressionSamples.h"
-#include "codec/CDECL.h"
-#include "codec/Compression.h"
-#include "codec/Inflate.h"
-#include "codec/ZlibLibrary.h"
+#include "codec/zlib/CDECL.h"
+#include "codec/zlib/Checksums.h"
+#include "codec/zlib/Compression.h"
+#include "codec/zlib/Inflate.h"
+#include "codec/zlib/ZlibLibrary.h"
 
 namespace iw {
 namespace {

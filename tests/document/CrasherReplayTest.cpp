@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "codec/Compression.h"
-#include "codec/c32bppDIB.h"
+#include "codec/png/c32bppDIB.h"
+#include "codec/zlib/Compression.h"
 #include "document/io/IconFileReader.h"
 #include "support/TestSupport.h"
 

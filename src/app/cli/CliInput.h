@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "CliSupport.h"
-#include "codec/c32bppDIB.h"
+#include "codec/png/c32bppDIB.h"
 #include "document/model/IconSet.h"
 
 namespace iw::cli {

@@ -5,7 +5,7 @@
 
 #include "CliInput.h"
 #include "Commands.h"
-#include "codec/PngCodec.h"
+#include "codec/png/PngCodec.h"
 #include "document/io/ImageRgba.h"
 
 namespace iw::cli {

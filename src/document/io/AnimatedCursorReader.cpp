@@ -2,9 +2,9 @@
 #include <cstring>
 #include <optional>
 
-#include "codec/ByteReader.h"
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IcoLayout.h"
+#include "services/core/ByteReader.h"
 
 namespace iw {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "codec/ByteReader.h"
 #include "document/io/IcoLayout.h"
+#include "services/core/ByteReader.h"
 
 namespace iw {
 

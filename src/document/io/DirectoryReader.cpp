@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "codec/ByteReader.h"
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
+#include "services/core/ByteReader.h"
 
 namespace iw::detail {
 namespace {

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <string>
 
-#include "codec/ByteReader.h"
 #include "document/io/BitmapDecoder.h"
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
 #include "document/io/PngEntryDecoder.h"
+#include "services/core/ByteReader.h"
 #include "services/core/TextCatalog.h"
 
 namespace iw::detail {

@@ -1,7 +1,7 @@
 #pragma once
 // Turning a 32-bit picture into an image of the set at a chosen depth.
 
-#include "codec/c32bppDIB.h"
+#include "codec/png/c32bppDIB.h"
 #include "document/model/IconSet.h"
 
 namespace iw {

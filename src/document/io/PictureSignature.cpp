@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "codec/ByteReader.h"
+#include "services/core/ByteReader.h"
 
 namespace iw {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "codec/PngCodec.h"
-#include "codec/PngPixels.h"
+#include "codec/png/PngCodec.h"
+#include "codec/png/PngPixels.h"
 
 namespace iw {
 namespace {

@@ -1,6 +1,6 @@
 #include "document/io/PngEntryEncoder.h"
 
-#include "codec/PngCodec.h"
+#include "codec/png/PngCodec.h"
 #include "document/io/ImageRgba.h"
 
 namespace iw {

@@ -1,7 +1,7 @@
-#include "codec/ByteReader.h"
 #include "document/io/BitmapDecoder.h"
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
+#include "services/core/ByteReader.h"
 
 namespace iw::detail {
 
