@@ -2,12 +2,12 @@
 
 #include <pugixml.hpp>
 
-#include <charconv>
 #include <fstream>
 #include <sstream>
 #include <vector>
 
 #include "services/core/AtomicFile.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
@@ -98,9 +98,7 @@ pugi::xml_node Root(pugi::xml_document& doc) {
 bool ParseStoreBool(std::string_view text, bool fallback) {
     if (text == "True" || text == "true" || text == "TRUE") return true;
     if (text == "False" || text == "false" || text == "FALSE") return false;
-    long value = 0;
-    auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (ec == std::errc() && end == text.data() + text.size()) return value != 0;
+    if (const auto value = ParseInteger<long long>(text)) return *value != 0;
     return fallback;
 }
 

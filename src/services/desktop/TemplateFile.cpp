@@ -1,9 +1,9 @@
 #include "services/desktop/TemplateFile.h"
 
-#include <charconv>
 #include <fstream>
 
 #include "services/core/AtomicFile.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
@@ -21,13 +21,7 @@ std::string_view Trim(std::string_view text) {
 }
 
 std::optional<int> TokenValue(std::string_view token) {
-    token = Trim(token);
-    if (!token.empty() && token.front() == '+') token.remove_prefix(1);
-    int value = 0;
-    auto [end, ec] = std::from_chars(token.data(), token.data() + token.size(), value);
-    if (token.empty() || ec != std::errc() || end != token.data() + token.size())
-        return std::nullopt;
-    return value;
+    return ParseInteger<int>(Trim(token));
 }
 
 // Values separated by commas or line breaks; blank lines hold none.
