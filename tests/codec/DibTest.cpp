@@ -63,14 +63,12 @@ TEST(Dib, LoadsPngKeepingTheSourceWhenAsked) {
     EXPECT_TRUE(dib.GetOrginalFormat().empty());
 }
 
-TEST(Dib, SavingAsksBeforeReplacingAFile) {
+TEST(Dib, SavingReplacesAFileOnlyWhenAllowed) {
     TempDir dir;
     const auto file = dir / "out.png";
     c32bppDIB dib = DibFromRgba(2, 1, {10, 20, 30, 255, 40, 50, 60, 128}), back;
     ASSERT_TRUE(dib.PngPropertySet(pngSoftware, "Iconwright"));
-    MessageFixture messages;
-    ASSERT_TRUE(dib.SaveToFile_PNG(file, &messages.service));
-    EXPECT_TRUE(messages.presenter.shown.empty());  // nothing to replace: no question
+    ASSERT_TRUE(dib.SaveToFile_PNG(file, false));  // nothing to replace
     const auto saved = ReadFileBytes(file);
     EXPECT_NE(
         std::string(saved.begin(), saved.end()).find(std::string("tEXtSoftware\0Iconwright", 23)),
@@ -81,16 +79,9 @@ TEST(Dib, SavingAsksBeforeReplacingAFile) {
     EXPECT_FALSE(c32bppDIB().SaveToStream_PNG(stream));
 
     WriteFileBytes(file, {1, 2, 3});
-    messages.presenter.answer = MessageAnswer::No;
-    EXPECT_FALSE(dib.SaveToFile_PNG(file, &messages.service));
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].text, "Overwrite existing file?");
-    EXPECT_EQ(messages.presenter.shown[0].title, "Overwrite Confirmation");
-    EXPECT_EQ(messages.presenter.shown[0].buttons, MessageButtons::YesNo);
-    EXPECT_FALSE(dib.SaveToFile_PNG(file, nullptr));  // nobody to ask: kept
+    EXPECT_FALSE(dib.SaveToFile_PNG(file, false));
     EXPECT_EQ(ReadFileBytes(file), (std::vector<std::uint8_t>{1, 2, 3}));
-    messages.presenter.answer = MessageAnswer::Yes;
-    ASSERT_TRUE(dib.SaveToFile_PNG(file, &messages.service));
+    ASSERT_TRUE(dib.SaveToFile_PNG(file, true));
     ASSERT_TRUE(back.LoadPicture_File(file));
     EXPECT_EQ(back.GetDIBbits(), dib.GetDIBbits());
 }

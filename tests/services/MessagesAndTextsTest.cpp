@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "services/core/DataFolder.h"
+#include "services/core/OverwriteQuestion.h"
 #include "services/core/TextCatalog.h"
 #include "support/TestSupport.h"
 
@@ -42,6 +43,27 @@ TEST(MessageRoutine, ShowsWithTitleTypeAndIconIndex) {
     EXPECT_EQ(MessageIconIndex(MessageType::Information), 4);
     EXPECT_EQ(MessageIconIndex(MessageType::Question), 2);
     EXPECT_EQ(r.iconIndex, 1);
+}
+
+// The question comes only for a file that exists; only Yes allows replacing it.
+TEST(OverwriteQuestion, AsksOnlyForAnExistingFileAndOnlyYesReplaces) {
+    test::TempDir dir;
+    test::MessageFixture f;
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_TRUE(ConfirmOverwrite(f.service, dir / "new.png"));
+    EXPECT_TRUE(f.presenter.shown.empty());
+    test::WriteFileBytes(dir / "old.png", {1});
+    f.store.SetBool("Messages\\OverwriteConfirmation", true);  // asked all the same
+    EXPECT_FALSE(ConfirmOverwrite(f.service, dir / "old.png"));
+    f.presenter.answer = MessageAnswer::Yes;
+    EXPECT_TRUE(ConfirmOverwrite(f.service, dir / "old.png"));
+    ASSERT_EQ(f.presenter.shown.size(), 2u);
+    const MessageBoxRequest& r = f.presenter.shown[0];
+    EXPECT_EQ(r.key, "OverwriteConfirmation");
+    EXPECT_EQ(r.text, "Overwrite existing file?");
+    EXPECT_EQ(r.title, "Overwrite Confirmation");
+    EXPECT_EQ(r.type, MessageType::Question);
+    EXPECT_EQ(r.buttons, MessageButtons::YesNo);
 }
 
 TEST(MessageRoutine, SuppressedMessagesStayQuietUnlessForced) {

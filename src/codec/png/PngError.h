@@ -24,7 +24,7 @@ enum class PngError {
     ReadFailed,           // the file could not be read
     EncodeFailed,         // the writer's compression failed
     WriteFailed,          // the file could not be written
-    Declined,             // the user declined to overwrite an existing file
+    Declined,             // the file exists and the caller did not allow replacing it
 };
 
 const char* PngErrorText(PngError error);

@@ -155,9 +155,9 @@ bool c32bppDIB::LoadPicture_File(const std::filesystem::path& file, bool keepOri
     return loaded;
 }
 
-bool c32bppDIB::SaveToFile_PNG(const std::filesystem::path& file, MessageService* messages) {
+bool c32bppDIB::SaveToFile_PNG(const std::filesystem::path& file, bool replaceExisting) {
     cPNGWriter writer;
-    return writer.SaveToFile(*this, file, messages, properties_);
+    return writer.SaveToFile(*this, file, replaceExisting, properties_);
 }
 
 bool c32bppDIB::SaveToStream_PNG(std::vector<std::uint8_t>& stream) const {

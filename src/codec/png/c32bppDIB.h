@@ -24,8 +24,6 @@
 
 namespace iw {
 
-class MessageService;
-
 // Which format a picture came from (`ImageType`); 0 until something is loaded.
 enum class ImageFormat : int {
     None = 0,
@@ -127,10 +125,10 @@ class c32bppDIB {
                             const DecodeLimits& limits = PictureLimits());
 
     // --- Saving --------------------------------------------------------------------------
-    // Writes the image as PNG. An existing file is replaced only after the question
-    // "Overwrite existing file?" is answered Yes (no `messages`: never replaced); the new
-    // file is written beside it and renamed over it, so a failed save keeps the old file.
-    bool SaveToFile_PNG(const std::filesystem::path& file, MessageService* messages);
+    // Writes the image as PNG. An existing file is replaced only when `replaceExisting`
+    // says so: the caller asks "Overwrite existing file?" first (ConfirmOverwrite). The new
+    // file is written beside the old and renamed over it, so a failed save keeps it.
+    bool SaveToFile_PNG(const std::filesystem::path& file, bool replaceExisting);
     bool SaveToStream_PNG(std::vector<std::uint8_t>& stream) const;
     // Text properties written with the PNG, addressed by bit value (see PngProperties.h).
     bool PngPropertySet(int id, std::string_view value) { return properties_.Set(id, value); }

@@ -10,13 +10,9 @@
 #include "codec/png/c32bppDIB.h"
 #include "codec/zlib/Compression.h"
 #include "services/core/AtomicFile.h"
-#include "services/core/MessageService.h"
 
 namespace iw {
 namespace {
-
-constexpr std::string_view kOverwriteTitle = "Overwrite Confirmation";
-constexpr std::string_view kOverwriteQuestion = "Overwrite existing file?";
 
 void PutBE32(std::uint8_t* p, std::uint32_t value) {
     p[0] = static_cast<std::uint8_t>(value >> 24);
@@ -142,19 +138,12 @@ bool cPNGWriter::SaveToStream(const c32bppDIB& image, std::vector<std::uint8_t>&
 }
 
 bool cPNGWriter::SaveToFile(const c32bppDIB& image, const std::filesystem::path& file,
-                            MessageService* messages, const PngProperties& properties) {
+                            bool replaceExisting, const PngProperties& properties) {
     error_ = PngError::None;
     std::error_code ec;
-    if (std::filesystem::exists(file, ec)) {
-        const MessageAnswer answer =
-            messages ? messages->ShowMessage("OverwriteConfirmation", kOverwriteQuestion,
-                                             kOverwriteTitle, MessageType::Question, true,
-                                             MessageButtons::YesNo)
-                     : MessageAnswer::No;
-        if (answer != MessageAnswer::Yes) {
-            error_ = PngError::Declined;
-            return false;
-        }
+    if (!replaceExisting && std::filesystem::exists(file, ec)) {
+        error_ = PngError::Declined;
+        return false;
     }
     std::vector<std::uint8_t> stream;
     if (!SaveToStream(image, stream, properties)) return false;

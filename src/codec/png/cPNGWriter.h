@@ -19,7 +19,6 @@
 namespace iw {
 
 class c32bppDIB;
-class MessageService;
 
 class cPNGWriter {
   public:
@@ -30,11 +29,11 @@ class cPNGWriter {
     // compression fails.
     bool SaveToStream(const c32bppDIB& image, std::vector<std::uint8_t>& stream,
                       const PngProperties& properties = {});
-    // Writes a PNG file. When the file exists the user is asked "Overwrite existing file?"
-    // (title "Overwrite Confirmation") first; without `messages` an existing file is never
-    // replaced. The file is replaced only once the whole PNG is written.
-    bool SaveToFile(const c32bppDIB& image, const std::filesystem::path& file,
-                    MessageService* messages, const PngProperties& properties = {});
+    // Writes a PNG file. An existing file is replaced only when `replaceExisting` says so
+    // (the caller asks the user: see services/core/OverwriteQuestion.h), and only once the
+    // whole PNG is written.
+    bool SaveToFile(const c32bppDIB& image, const std::filesystem::path& file, bool replaceExisting,
+                    const PngProperties& properties = {});
 
     PngError LastError() const { return error_; }
 

@@ -41,6 +41,9 @@ inline constexpr TextId SaveFilename{"SaveFilename", "Messages", "Save changes t
 inline constexpr TextId SaveUntitled{"SaveUntitled", "Messages", "Save changes to untitled?"};
 inline constexpr TextId OverwriteFile{"OverwriteFile", "Messages",
                                       "The file %f already exists.  OK to overwrite?"};
+// Asked before a picture is saved over an existing file, under its own title.
+inline constexpr TextId OverwriteConfirmation{"OverwriteConfirmation", "Messages",
+                                              "Overwrite existing file?"};
 inline constexpr TextId PSDBadColor{
     "PSDBadColor", "Messages",
     "This Photoshop file has a color model other than RGB.  Iconwright only supports Photoshop "
@@ -137,6 +140,8 @@ inline constexpr TextId ImportingImage{"ImportingImage", "Constants", "Importing
 inline constexpr TextId Jiffies{"Jiffies", "Constants", "jiffies"};
 inline constexpr TextId LoadingIcon{"LoadingIcon", "Constants", "Loading icon"};
 inline constexpr TextId Of{"Of", "Constants", "of"};
+inline constexpr TextId OverwriteConfirmationTitle{"OverwriteConfirmation", "Constants",
+                                                   "Overwrite Confirmation"};
 inline constexpr TextId OpenIconFilter{"OpenIconFilter", "Constants", "Icon Files (*.ico)|*.ico"};
 inline constexpr TextId OpenFileFilterIcon{"OpenFileFilterIcon", "Constants",
                                            "Icon Files (*.ico)|*.ico"};
