@@ -52,6 +52,19 @@ class cCDECL {
     // successful operation. A failed DllLoad records "DLL not loaded".
     std::uint32_t LastError() const { return lastError_; }
 
+    // A C-convention entry that forwards to `routine`, for a C library to call back into
+    // the program. Where the caller and the library share one calling convention, as on
+    // every target this program is built for (x86-64 has one per system: the System V
+    // convention on Linux and macOS, the Microsoft x64 one on Windows; AArch64 likewise),
+    // a routine of the program already is such an entry, so it comes back unchanged and
+    // nothing is generated or kept alive. Only 32-bit x86 Windows, with its C and
+    // standard-call conventions side by side, would need a forwarding stub.
+    template <typename R, typename... Args>
+    static auto WrapCallback(R (*routine)(Args...)) -> R (*)(Args...) {
+        static_assert(sizeof(void*) == 8, "callbacks need a forwarding stub on 32-bit x86");
+        return routine;
+    }
+
   private:
     [[noreturn]] void Raise(std::uint32_t number, std::string description);
 

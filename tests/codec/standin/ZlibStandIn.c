@@ -1,7 +1,8 @@
 /* A stand-in for zlib, built in several variants for the loader's tests. Each variant
  * exports a different subset of compress2 / compress / uncompress / crc32, and counts the
  * calls it receives so a test can tell which library and which function did the work.
- * compress and compress2 write a valid zlib stream of stored blocks. */
+ * compress and compress2 write a valid zlib stream of stored blocks. Every variant also
+ * exports a function that calls a callback of the caller's. */
 
 #include <stddef.h>
 #include <string.h>
@@ -62,6 +63,11 @@ STANDIN_EXPORT int iw_standin_compress_calls(void) { return compressCalls; }
 STANDIN_EXPORT int iw_standin_compress2_calls(void) { return compress2Calls; }
 STANDIN_EXPORT int iw_standin_last_level(void) { return lastLevel; }
 STANDIN_EXPORT const char* iw_standin_name(void) { return STANDIN_NAME; }
+
+/* Calls the caller's routine back, as a C library that takes a callback does. */
+STANDIN_EXPORT int iw_standin_call_back(int (*callback)(void*, int), void* context, int value) {
+    return callback(context, value) + 1;
+}
 
 STANDIN_EXPORT int compress(unsigned char* dest, unsigned long* destLen, const unsigned char* src,
                             unsigned long srcLen) {
