@@ -59,7 +59,6 @@ class PngProperties {
     // The text of a property, empty when unset or not a text property.
     std::string Get(int id) const;
     const std::optional<PngTime>& Time() const { return time_; }
-    void ClearTime() { time_.reset(); }
     void Clear();
     bool Empty() const;
 

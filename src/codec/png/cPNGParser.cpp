@@ -13,7 +13,7 @@
 #include "codec/zlib/Checksums.h"
 #include "codec/zlib/Compression.h"
 #include "platform/FileStreams.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw {
 

@@ -32,7 +32,6 @@ class Lz77Matcher {
     // the input is used up. Returns the input position reached: every byte before it is
     // covered by the symbols emitted so far.
     std::size_t Parse(std::vector<Lz77Symbol>& symbols, std::size_t maxSymbols);
-    bool Done() const { return pos_ >= data_.size() && !pending_; }
 
   private:
     void Insert(std::size_t pos);

@@ -23,7 +23,6 @@ inline constexpr std::uint32_t kEntryLiteral = 1u << 12;
 inline constexpr std::uint32_t kEntryEnd = 1u << 13;
 inline constexpr std::uint32_t kEntrySubtable = 1u << 14;
 inline constexpr std::uint32_t kEntryInvalid = 1u << 15;
-inline constexpr std::uint32_t kEntryKindMask = 0xF000;
 
 inline constexpr unsigned kLitLenTableBits = 11;
 inline constexpr unsigned kDistTableBits = 8;

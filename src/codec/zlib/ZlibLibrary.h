@@ -21,7 +21,6 @@ class ZlibLibrary {
     // zlib's return codes that the callers look at.
     static constexpr int kOk = 0;
     static constexpr int kBufError = -5;
-    static constexpr int kDataError = -3;
     static constexpr int kMemError = -4;
 
     ZlibLibrary() = default;

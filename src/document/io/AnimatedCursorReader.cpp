@@ -4,7 +4,7 @@
 
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IcoLayout.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw {
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "document/io/IcoLayout.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw {
 

@@ -2,7 +2,7 @@
 
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw::detail {
 namespace {

@@ -5,7 +5,7 @@
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
 #include "document/io/PngEntryDecoder.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 #include "services/core/TextCatalog.h"
 
 namespace iw::detail {

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw {
 namespace {

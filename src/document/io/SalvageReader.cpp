@@ -1,7 +1,7 @@
 #include "document/io/BitmapDecoder.h"
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
-#include "services/core/ByteReader.h"
+#include "services/core/CheckedBytes.h"
 
 namespace iw::detail {
 

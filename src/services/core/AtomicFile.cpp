@@ -29,7 +29,6 @@ bool AtomicFile::Open(const std::filesystem::path& target) {
     Discard();
     target_ = target;
     failed_ = false;
-    written_ = 0;
     for (int attempt = 0; attempt < 16; ++attempt) {
         std::filesystem::path candidate = TempNameBeside(target, attempt);
         bool nameTaken = false;
@@ -54,7 +53,6 @@ bool AtomicFile::Write(const void* data, std::size_t size) {
         failed_ = true;
         return false;
     }
-    written_ += size;
     return true;
 }
 

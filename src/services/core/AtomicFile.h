@@ -30,13 +30,11 @@ class AtomicFile {
     void Discard();
 
     bool Failed() const { return failed_; }
-    std::size_t BytesWritten() const { return written_; }
 
   private:
     std::FILE* file_ = nullptr;
     std::filesystem::path target_;
     std::filesystem::path temp_;
-    std::size_t written_ = 0;
     bool failed_ = false;
 };
 

@@ -33,7 +33,6 @@ class XmlStore {
     // The store laid out with "\r\n" between elements.
     std::string ToString() const;
 
-    const std::filesystem::path& FilePath() const { return path_; }
     void SetFilePath(std::filesystem::path file) { path_ = std::move(file); }
 
     // The text at `path`, or `defaultValue` when any step of the path is missing.
