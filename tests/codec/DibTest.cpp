@@ -44,7 +44,7 @@ TEST(Dib, KeepsRowsBottomUpInBlueGreenRedAlphaOrder) {
 }
 
 TEST(Dib, LoadsPngKeepingTheSourceWhenAsked) {
-    const auto file = SharedPath("testdata/pngsuite/png/basn6a08.png");
+    const auto file = TestDataPath("pngsuite/png/basn6a08.png");
     const auto png = ReadFileBytes(file);
     c32bppDIB dib, streamed;
     ASSERT_TRUE(dib.LoadPicture_Stream(png, true));

@@ -1,27 +1,17 @@
 #include "support/TestSupport.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <stdexcept>
 
 namespace iw::test {
-namespace {
-
-std::filesystem::path FromEnvOr(const char* name, const char* fallback) {
-    const char* value = std::getenv(name);
-    return std::filesystem::path(value && *value ? value : fallback);
-}
-
-}  // namespace
-
 std::filesystem::path TestDataPath(const std::string& relative) {
-    return FromEnvOr("IW_TEST_DATA", IW_TEST_DATA_DEFAULT) / relative;
-}
-
-std::filesystem::path SharedPath(const std::string& relative) {
-    return FromEnvOr("IW_SHARED", IW_SHARED_DEFAULT) / relative;
+    const std::filesystem::path path = std::filesystem::path(IW_TEST_DATA_DIR) / relative;
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec))
+        throw std::runtime_error("test data missing from the checkout: " + path.string());
+    return path;
 }
 
 std::vector<std::uint8_t> ReadFileBytes(const std::filesystem::path& file) {

@@ -48,10 +48,9 @@ struct MessageFixture {
     MessageService service{store, presenter};
 };
 
-// tests/data/<relative>; IW_TEST_DATA overrides the folder.
+// tests/data/<relative> in the checkout. Data that is missing is a fault of the checkout,
+// never a reason to skip: a path that does not exist throws, which fails the test.
 std::filesystem::path TestDataPath(const std::string& relative);
-// ../shared/<relative> beside the checkout; IW_SHARED overrides the folder.
-std::filesystem::path SharedPath(const std::string& relative);
 
 std::vector<std::uint8_t> ReadFileBytes(const std::filesystem::path& file);
 void WriteFileBytes(const std::filesystem::path& file, const std::vector<std::uint8_t>& bytes);
