@@ -8,8 +8,8 @@
 
 namespace iw {
 
-Editor::Editor(EditorServices services)
-    : services_(services), messages_(messageStore_, services.presenter) {
+Editor::Editor(EditorServices services, ToolSet tools)
+    : services_(services), messages_(messageStore_, services.presenter), tools_(std::move(tools)) {
     DefaultRequiredFormats();
 }
 
@@ -58,7 +58,7 @@ std::string Editor::ModeMenuCaption() const {
 
 void Editor::SelectImage(int index) {
     if (index < 0 || index >= set_.Count()) return;
-    drag_.reset();
+    CancelStroke();
     state_.CurrentIcon = static_cast<std::int16_t>(index);
     // Snapshots carry no image identity: another image must not receive them.
     ResetUndosRepeats();
@@ -123,17 +123,18 @@ ViewportSize Editor::CanvasSize() const {
 void Editor::AddUndo() {
     if (!HasImage()) return;
     history_.AddUndo(CurrentImage());
+    if (stroke_) stroke_->recorded = true;
 }
 
 bool Editor::Undo() {
     if (!HasImage() || !history_.UndoEnabled()) return false;
-    if (dropFloatingSelection) dropFloatingSelection();
+    DropFloatingSelection();
     return history_.Undo(CurrentImage());
 }
 
 bool Editor::Repeat() {
     if (!HasImage() || !history_.RepeatEnabled()) return false;
-    if (dropFloatingSelection) dropFloatingSelection();
+    DropFloatingSelection();
     return history_.Repeat(CurrentImage());
 }
 

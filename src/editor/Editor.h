@@ -5,7 +5,6 @@
 // be read back from here after each call.
 
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +20,7 @@
 #include "editor/MainWindowView.h"
 #include "editor/UndoHistory.h"
 #include "editor/Zoom.h"
+#include "editor/tools/StandardTools.h"
 #include "services/core/MessageService.h"
 #include "services/core/UserInterface.h"
 #include "services/core/XmlStore.h"
@@ -53,8 +53,6 @@ struct StartupResult {
     bool previousRunEndedCleanly = true;
 };
 
-enum class MouseButton { Left, Right };
-
 // What a canvas event changed, so the window repaints only what it must.
 struct CanvasUpdate {
     bool imageChanged = false;   // redraw the canvas and the preview
@@ -64,9 +62,9 @@ struct CanvasUpdate {
 // The formats a set is checked against when no template was chosen for it.
 inline constexpr std::string_view kDefaultTemplateName = "Windows Application";
 
-class Editor {
+class Editor final : private IUndoRecorder, private IColorPicker {
   public:
-    explicit Editor(EditorServices services);
+    explicit Editor(EditorServices services, ToolSet tools = StandardTools());
 
     // ---- Start-up and exit -------------------------------------------------------------
     // The main window's load, steps 1 to 8: caption, the two stores, the settings, splash
@@ -137,27 +135,30 @@ class Editor {
     ViewportSize CanvasSize() const;
 
     // ---- Canvas ------------------------------------------------------------------------
-    // Pointer events in image cells (see CanvasToImage). Painting tools record an undo
-    // snapshot on press; the left button paints with the foreground colour and the right
-    // with the background colour.
-    CanvasUpdate PointerPress(Point cell, MouseButton button);
-    CanvasUpdate PointerMove(Point cell);
-    CanvasUpdate PointerRelease(Point cell);
-    bool Dragging() const { return drag_.has_value(); }
+    // Pointer events in image cells (see CanvasToImage), handed to the current tool. Painting
+    // tools record an undo snapshot on press; the left button paints with the foreground
+    // colour and the right with the background colour.
+    CanvasUpdate PointerPress(Point cell, MouseButton button, KeyModifiers modifiers = {});
+    CanvasUpdate PointerMove(Point cell, KeyModifiers modifiers = {});
+    CanvasUpdate PointerRelease(Point cell, KeyModifiers modifiers = {});
+    // A key for the current tool; false when the tool has no use for it.
+    bool KeyPress(const KeyEvent& event);
+    bool Dragging() const { return stroke_.has_value(); }
     std::string StatusTextAt(Point cell) const;
+    // The floating selection of Select or Text, or nullptr.
+    const IFloatingSelection* FloatingSelection() const { return floating_.get(); }
+    // Paints the floating selection into the image; Undo and Repeat call it first.
+    bool DropFloatingSelection();
 
     // ---- Undo --------------------------------------------------------------------------
     // Records the current image before a change made outside the canvas (effects,
     // adjustments, paste).
-    void AddUndo();
+    void AddUndo() override;
     bool Undo();
     bool Repeat();
     void ResetUndosRepeats();
     bool UndoEnabled() const { return history_.UndoEnabled(); }
     bool RepeatEnabled() const { return history_.RepeatEnabled(); }
-    // Set by the window: drops a floating selection into the image before Undo or Repeat.
-    std::function<void()> dropFloatingSelection;
-
     // ---- Inspector ---------------------------------------------------------------------
     void RunInspector();
     const InspectorPanel& InspectorView() const { return inspector_.Panel(); }
@@ -189,11 +190,12 @@ class Editor {
     const std::string& EditRequest() const { return editRequest_; }
 
   private:
-    struct Drag {
+    // The tool that took the press, until the release.
+    struct Stroke {
+        ITool* tool;
         MouseButton button;
-        Point anchor;
         Point last;
-        IconImage before;  // the image as it was at the press, for rubber-band shapes
+        bool recorded;  // it recorded an undo snapshot: it changed the image
     };
 
     void StartFreshSet(FileMode mode, int widthMinus1, int heightMinus1, int bitCount, int png);
@@ -202,9 +204,10 @@ class Editor {
     void RunLayout();
     void DefaultRequiredFormats();
     void ShowCaption();
-    CanvasUpdate PaintAt(Point cell, bool first);
-    CanvasUpdate PickAt(Point cell, MouseButton button);
-    PackedColor PaintColor() const;
+    void TakePickedColor(MouseButton button, PackedColor color, std::optional<int> alpha) override;
+    ToolContext MakeToolContext();
+    CanvasUpdate Apply(const ToolResult& result);
+    void CancelStroke();
 
     EditorServices services_;
     XmlStore settingsStore_;
@@ -219,7 +222,10 @@ class Editor {
     InspectorRules rules_;
     std::vector<int> highlighted_;
     ViewportSize viewport_{800, 600};
-    std::optional<Drag> drag_;
+    ToolSet tools_;
+    std::optional<Stroke> stroke_;
+    std::unique_ptr<IFloatingSelection> floating_;
+    bool colorsPicked_ = false;
 
     std::string fileName_;
     std::string language_ = "English";

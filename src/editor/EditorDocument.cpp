@@ -74,7 +74,8 @@ void Editor::StartFreshSet(FileMode mode, int widthMinus1, int heightMinus1, int
 }
 
 void Editor::AfterNewSet() {
-    drag_.reset();
+    CancelStroke();
+    floating_.reset();  // the image it floated over is gone
     highlighted_.clear();
     state_.CurrentIcon = 0;
     ResetUndosRepeats();

@@ -15,19 +15,20 @@ namespace iw {
 enum class GradientDirection { Vertical, Horizontal, Diagonal, Center };
 enum class SelectionMode { Opaque, Transparent };
 
-// The keys of the tool bar's buttons, as the code compares them.
-namespace tools {
-inline constexpr std::string_view Select = "Select";
-inline constexpr std::string_view Fill = "Fill";
-inline constexpr std::string_view Airbrush = "Airbrush";
-inline constexpr std::string_view Text = "Text";
-inline constexpr std::string_view PickColor = "Pick Color";
-inline constexpr std::string_view Pencil = "Pencil";
-inline constexpr std::string_view Line = "Line";
-inline constexpr std::string_view Gradient = "Gradient";
-inline constexpr std::string_view Ellipse = "Ellipse";
-inline constexpr std::string_view Rectangle = "Rectangle";
-}  // namespace tools
+// The tools of the tool bar, in its order (see ToolTable.h for their keys and panels).
+enum class ToolId {
+    Select,
+    Fill,
+    Airbrush,
+    Text,
+    PickColor,
+    Pencil,
+    Line,
+    Gradient,
+    Ellipse,
+    Rectangle
+};
+inline constexpr int kToolCount = 10;
 
 struct EditorState {
     static constexpr int kMinPixelSize = 1;
@@ -42,7 +43,7 @@ struct EditorState {
     PackedColor BackColor = PackColor(255, 255, 255);
     int CurrentAlpha = 255;  // what a plotted pixel of a 32-bit image gets in plane 1
 
-    std::string CurrentTool = std::string(tools::Pencil);
+    ToolId CurrentTool = ToolId::Pencil;
     std::string BrushShape = "SSquare";  // SSquare, MSquare, LSquare, SCircle, MCircle, LCircle
     int LineWidth = 1;                   // 1..4
     int SpraySize = 4;                   // radius: 4, 6 or 8

@@ -6,18 +6,27 @@
 namespace iw {
 namespace {
 
-constexpr std::array<ToolInfo, 10> kTools = {{
-    {tools::Select, "Select", OptionPanel::Selection, "tbrTools-Select"},
-    {tools::Fill, "Flood Fill", OptionPanel::Nothing, "tbrTools-Fill"},
-    {tools::Airbrush, "Airbrush", OptionPanel::Spray, "tbrTools-Spray"},
-    {tools::Text, "Text", OptionPanel::Nothing, "tbrTools-Text"},
-    {tools::PickColor, "Pick Color", OptionPanel::Nothing, ""},
-    {tools::Pencil, "Pencil", OptionPanel::Pencil, "tbrTools-Pencil"},
-    {tools::Line, "Line", OptionPanel::Line, "tbrTools-Line"},
-    {tools::Gradient, "Gradient", OptionPanel::Gradient, ""},
-    {tools::Ellipse, "Ellipse", OptionPanel::Shape, ""},
-    {tools::Rectangle, "Rectangle", OptionPanel::Shape, ""},
+constexpr std::array<ToolInfo, kToolCount> kTools = {{
+    {ToolId::Select, "Select", "Select", OptionPanel::Selection, "tbrTools-Select"},
+    {ToolId::Fill, "Fill", "Flood Fill", OptionPanel::Nothing, "tbrTools-Fill"},
+    {ToolId::Airbrush, "Airbrush", "Airbrush", OptionPanel::Spray, "tbrTools-Spray"},
+    {ToolId::Text, "Text", "Text", OptionPanel::Nothing, "tbrTools-Text"},
+    {ToolId::PickColor, "Pick Color", "Pick Color", OptionPanel::Nothing, ""},
+    {ToolId::Pencil, "Pencil", "Pencil", OptionPanel::Pencil, "tbrTools-Pencil"},
+    {ToolId::Line, "Line", "Line", OptionPanel::Line, "tbrTools-Line"},
+    {ToolId::Gradient, "Gradient", "Gradient", OptionPanel::Gradient, ""},
+    {ToolId::Ellipse, "Ellipse", "Ellipse", OptionPanel::Shape, ""},
+    {ToolId::Rectangle, "Rectangle", "Rectangle", OptionPanel::Shape, ""},
 }};
+
+// InfoOf indexes the table by ToolId.
+constexpr bool InToolIdOrder() {
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
+        if (static_cast<std::size_t>(kTools[i].id) != i) return false;
+    }
+    return true;
+}
+static_assert(InToolIdOrder());
 
 constexpr std::array<std::string_view, 6> kBrushShapes = {"SSquare", "MSquare", "LSquare",
                                                           "SCircle", "MCircle", "LCircle"};
@@ -36,21 +45,26 @@ std::span<const ToolInfo> AllTools() {
     return kTools;
 }
 
-const ToolInfo* FindTool(std::string_view key) {
+const ToolInfo& InfoOf(ToolId tool) {
+    return kTools[static_cast<std::size_t>(tool)];
+}
+
+std::optional<ToolId> ToolFromKey(std::string_view key) {
     for (const ToolInfo& tool : kTools) {
-        if (tool.key == key) return &tool;
+        if (tool.key == key) return tool.id;
     }
-    return nullptr;
+    return std::nullopt;
 }
 
-OptionPanel OptionPanelFor(std::string_view key) {
-    const ToolInfo* tool = FindTool(key);
-    return tool ? tool->panel : OptionPanel::Nothing;
+void SelectTool(EditorState& state, ToolId tool) {
+    state.CurrentTool = tool;
 }
 
-OptionPanel SelectTool(EditorState& state, std::string_view key) {
-    state.CurrentTool = std::string(key);
-    return OptionPanelFor(key);
+bool SelectTool(EditorState& state, std::string_view key) {
+    const std::optional<ToolId> tool = ToolFromKey(key);
+    if (!tool) return false;
+    SelectTool(state, *tool);
+    return true;
 }
 
 bool SetBrushShape(EditorState& state, std::string_view tag) {

@@ -1,8 +1,8 @@
 #pragma once
 // Undo and Repeat: two stacks of whole-image snapshots of the image being edited, UndoPixels
-// and RedoPixels, twenty levels each, level 0 the newest. A snapshot holds pixels only (the current image's width
-// by height cells of both planes), not the image's size, depth or place in the set, so the
-// owner must call ResetUndosRepeats whenever the current image or its size changes and
+// and RedoPixels, twenty levels each, level 0 the newest. A snapshot holds pixels only (the current
+// image's width by height cells of both planes), not the image's size, depth or place in the set,
+// so the owner must call ResetUndosRepeats whenever the current image or its size changes and
 // whenever a set is opened or made.
 
 #include <cstdint>

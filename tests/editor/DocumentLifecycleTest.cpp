@@ -31,7 +31,7 @@ struct Lifecycle : ::testing::Test {
     }
     // Draws one pixel as the canvas would: a pencil press and release.
     void Draw(Point at) {
-        editor.State().CurrentTool = "Pencil";
+        editor.State().CurrentTool = ToolId::Pencil;
         editor.PointerPress(at, MouseButton::Left);
         editor.PointerRelease(at);
     }

@@ -96,8 +96,10 @@ TEST(ChannelEntry, TakesNumbersFromZeroBelow256AndAlphaFallsBackTo255) {
 
 TEST(Tools, OptionsTakeOnlyOfferedTags) {
     EditorState state;
-    EXPECT_EQ(SelectTool(state, "Ellipse"), OptionPanel::Shape);
-    EXPECT_EQ(SelectTool(state, "Nonsense"), OptionPanel::Nothing);
+    EXPECT_TRUE(SelectTool(state, "Pick Color"));
+    EXPECT_FALSE(SelectTool(state, "Nonsense"));
+    EXPECT_EQ(state.CurrentTool, ToolId::PickColor);
+    EXPECT_EQ(InfoOf(ToolId::Ellipse).panel, OptionPanel::Shape);
     EXPECT_FALSE(SetSpraySize(state, "5"));
     EXPECT_FALSE(SetLineWidth(state, "2x"));
     EXPECT_TRUE(SetLineWidth(state, "4"));
