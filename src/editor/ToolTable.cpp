@@ -1,7 +1,6 @@
 #include "editor/ToolTable.h"
 
 #include <array>
-#include <charconv>
 
 namespace iw {
 namespace {
@@ -28,17 +27,6 @@ constexpr bool InToolIdOrder() {
 }
 static_assert(InToolIdOrder());
 
-constexpr std::array<std::string_view, 6> kBrushShapes = {"SSquare", "MSquare", "LSquare",
-                                                          "SCircle", "MCircle", "LCircle"};
-
-// The whole tag as a decimal number, or -1.
-int TagNumber(std::string_view tag) {
-    int value = -1;
-    auto [end, ec] = std::from_chars(tag.data(), tag.data() + tag.size(), value);
-    if (ec != std::errc() || end != tag.data() + tag.size()) return -1;
-    return value;
-}
-
 }  // namespace
 
 std::span<const ToolInfo> AllTools() {
@@ -54,41 +42,6 @@ std::optional<ToolId> ToolFromKey(std::string_view key) {
         if (tool.key == key) return tool.id;
     }
     return std::nullopt;
-}
-
-void SelectTool(EditorState& state, ToolId tool) {
-    state.CurrentTool = tool;
-}
-
-bool SelectTool(EditorState& state, std::string_view key) {
-    const std::optional<ToolId> tool = ToolFromKey(key);
-    if (!tool) return false;
-    SelectTool(state, *tool);
-    return true;
-}
-
-bool SetBrushShape(EditorState& state, std::string_view tag) {
-    for (std::string_view shape : kBrushShapes) {
-        if (shape == tag) {
-            state.BrushShape = std::string(shape);
-            return true;
-        }
-    }
-    return false;
-}
-
-bool SetLineWidth(EditorState& state, std::string_view tag) {
-    int width = TagNumber(tag);
-    if (width < 1 || width > 4) return false;
-    state.LineWidth = width;
-    return true;
-}
-
-bool SetSpraySize(EditorState& state, std::string_view tag) {
-    int size = TagNumber(tag);
-    if (size != 4 && size != 6 && size != 8) return false;
-    state.SpraySize = size;
-    return true;
 }
 
 }  // namespace iw

@@ -10,7 +10,7 @@ class GradientTool final : public ITool {
   public:
     ToolResult Press(ToolContext& context, const PointerEvent& event) override {
         context.undo.AddUndo();
-        const EditorState& options = context.options;
+        const ToolState& options = context.options;
         const bool right = event.button == MouseButton::Right;
         PaintGradient(context.image, options.Gradient,
                       right ? options.BackColor : options.ForeColor, options.CurrentAlpha,

@@ -9,7 +9,7 @@
 namespace iw {
 namespace {
 
-using ShapePoints = std::vector<Point> (*)(Point anchor, Point to, const EditorState& options);
+using ShapePoints = std::vector<Point> (*)(Point anchor, Point to, const ToolState& options);
 
 class ShapeTool final : public ITool {
   public:
@@ -43,19 +43,19 @@ class ShapeTool final : public ITool {
 }  // namespace
 
 std::unique_ptr<ITool> MakeLineTool() {
-    return std::make_unique<ShapeTool>([](Point a, Point b, const EditorState& options) {
+    return std::make_unique<ShapeTool>([](Point a, Point b, const ToolState& options) {
         return ThickLinePoints(a, b, options.LineWidth);
     });
 }
 
 std::unique_ptr<ITool> MakeRectangleTool() {
-    return std::make_unique<ShapeTool>([](Point a, Point b, const EditorState& options) {
+    return std::make_unique<ShapeTool>([](Point a, Point b, const ToolState& options) {
         return RectanglePoints(a, b, options.ShapeFilled);
     });
 }
 
 std::unique_ptr<ITool> MakeEllipseTool() {
-    return std::make_unique<ShapeTool>([](Point a, Point b, const EditorState& options) {
+    return std::make_unique<ShapeTool>([](Point a, Point b, const ToolState& options) {
         return EllipsePoints(a, b, options.ShapeFilled);
     });
 }

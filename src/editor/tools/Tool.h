@@ -8,8 +8,8 @@
 
 #include "document/model/IconImage.h"
 #include "editor/Airbrush.h"
-#include "editor/EditorState.h"
 #include "editor/Geometry.h"
+#include "editor/ToolState.h"
 
 namespace iw {
 
@@ -77,7 +77,7 @@ class IColorPicker {
 // What a tool may touch while it handles one event.
 struct ToolContext {
     IconImage& image;                               // the image being edited
-    const EditorState& options;                     // colours, alpha and tool options
+    const ToolState& options;                       // colours, alpha and tool options
     IUndoRecorder& undo;                            // before the first change of a stroke
     IRandomSource& random;                          // the airbrush's chances
     IColorPicker& picker;                           // Pick Color
@@ -105,7 +105,10 @@ class ITool {
     virtual ToolResult Release(ToolContext&, const PointerEvent&) { return {}; }
     // A key while this tool is current; nothing when the tool has no use for it.
     virtual std::optional<ToolResult> Key(ToolContext&, const KeyEvent&) { return std::nullopt; }
-    virtual CursorHint CursorAt(const ToolContext&, Point) const { return CursorHint::Tool; }
+    // The cursor over a cell while no button is held.
+    virtual CursorHint CursorAt(const IFloatingSelection* /*floating*/, Point /*cell*/) const {
+        return CursorHint::Tool;
+    }
     // A stroke was cut short (another image, a new set): forget it.
     virtual void Cancel() {}
 };
