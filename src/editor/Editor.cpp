@@ -81,6 +81,27 @@ void Editor::ResetUndosRepeats() {
     Notify(&IEditorObserver::UndoStateChanged);
 }
 
+// ---- Windows over the image ------------------------------------------------------------
+
+std::unique_ptr<ColorAdjustments> Editor::AdjustColors(IAdjustmentsObserver* window) {
+    IconImage* image = EditedImage();
+    if (!image) return nullptr;
+    canvas_.DropFloatingSelection();
+    AddUndo();
+    adjustments_.window = window;
+    return std::make_unique<ColorAdjustments>(*image, &adjustments_);
+}
+
+void Editor::AdjustmentsRelay::ImageChanged() {
+    if (window) window->ImageChanged();
+    editor_.Notify(&IEditorObserver::ImageChanged);
+}
+
+void Editor::AdjustmentsRelay::Closed(bool kept) {
+    if (window) window->Closed(kept);
+    if (kept) editor_.inspector_.Check();
+}
+
 // ---- What the parts report --------------------------------------------------------------
 
 void Editor::StrokeFinished() {

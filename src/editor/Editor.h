@@ -24,6 +24,7 @@
 #include "editor/ToolControls.h"
 #include "editor/UndoHistory.h"
 #include "editor/ViewController.h"
+#include "imaging/ColorAdjustments.h"
 
 namespace iw {
 
@@ -78,6 +79,13 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     bool RepeatEnabled() const { return history_.RepeatEnabled(); }
     const UndoHistory& History() const { return history_; }
 
+    // ---- Windows over the image --------------------------------------------------------
+    // The adjustments window's logic on the image being edited (nullptr without one). An
+    // undo snapshot is recorded first. Each recomputation reaches `window` (if any) and the
+    // editor's observers as ImageChanged; when OK closes it the inspector looks again. One
+    // at a time: it must be gone before the next is made or the set changes.
+    std::unique_ptr<ColorAdjustments> AdjustColors(IAdjustmentsObserver* window = nullptr);
+
     // ---- Parts -------------------------------------------------------------------------
     DocumentSession& Document() { return session_; }
     const DocumentSession& Document() const { return session_; }
@@ -93,6 +101,18 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     const ProgramSettings& Settings() const { return settings_; }
 
   private:
+    // Passes the adjustments' events on to their window and to the editor's observers.
+    class AdjustmentsRelay final : public IAdjustmentsObserver {
+      public:
+        explicit AdjustmentsRelay(Editor& editor) : editor_(editor) {}
+        void ImageChanged() override;
+        void Closed(bool kept) override;
+        IAdjustmentsObserver* window = nullptr;
+
+      private:
+        Editor& editor_;
+    };
+
     IconImage* EditedImage() override;
     void StrokeFinished() override;
     void SetReplaced(const std::vector<TemplateEntry>* formats) override;
@@ -113,6 +133,7 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     CanvasController canvas_;
     InspectorController inspector_;
     DocumentSession session_;
+    AdjustmentsRelay adjustments_{*this};
 };
 
 }  // namespace iw
