@@ -65,6 +65,8 @@ std::string DocumentSession::ModeMenuCaption() const {
 void DocumentSession::SwitchMode(FileMode mode) {
     if (set_.mode == mode) return;
     set_.mode = mode;
+    // The file will be written in the other format: that is a change to save.
+    MarkModified();
     events_.Notify(&IEditorObserver::ModeChanged);
 }
 

@@ -58,7 +58,7 @@ class DocumentSession {
     // and only Yes goes on.
     bool SaveAs(const std::string& path);
 
-    // The mode menu.
+    // The mode menu. Switching to another mode marks the set modified.
     void SwitchICOMode() { SwitchMode(FileMode::ICO); }
     void SwitchCURMode() { SwitchMode(FileMode::CUR); }
     void SwitchANIMode() { SwitchMode(FileMode::ANI); }

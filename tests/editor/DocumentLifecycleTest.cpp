@@ -241,7 +241,15 @@ TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     EXPECT_EQ(editor.Document().Mode(), FileMode::CUR);
     EXPECT_EQ(f.presenter.shown.back().key, "CreateCursor");
     EXPECT_EQ(f.presenter.shown.back().title, "Quorvale Iconwright");
+    EXPECT_TRUE(editor.Document().Unmodified());
+    editor.Document().SwitchCURMode();  // already a cursor
+    EXPECT_TRUE(editor.Document().Unmodified());
+    editor.Document().SwitchICOMode();
+    EXPECT_FALSE(editor.Document().Unmodified());
+    EXPECT_EQ(editor.Document().ModeMenuCaption(), "&Icon");
+    f.presenter.answer = MessageAnswer::No;
     ASSERT_TRUE(editor.Document().NewAnimatedCursor());
+    EXPECT_EQ(f.presenter.shown.end()[-2].key, "SaveUntitled");
     EXPECT_EQ(editor.Document().Mode(), FileMode::ANI);
     EXPECT_EQ(f.presenter.shown.back().key, "CreateANI");
     EXPECT_EQ(editor.Set().Count(), 1);
