@@ -70,11 +70,6 @@ void DocumentSession::SwitchMode(FileMode mode) {
     events_.Notify(&IEditorObserver::ModeChanged);
 }
 
-void DocumentSession::AddRecentFile(const std::string& path) {
-    settings_.AddRecentFile(path);
-    events_.Notify(&IEditorObserver::RecentFilesChanged);
-}
-
 // ---- Ask to save ------------------------------------------------------------------------
 
 MessageAnswer DocumentSession::AskToSave() {
@@ -138,18 +133,18 @@ bool DocumentSession::NewBlankIcon(int kind) {
 }
 
 bool DocumentSession::NewCursor() {
-    if (!Ask()) return false;
-    StartFreshSet(FileMode::CUR, kDefaultFormat);
-    Replaced();
-    settings_.Messages().Show(texts::CreateCursor, MessageType::Information);
-    return true;
+    return NewCursorSet(FileMode::CUR, texts::CreateCursor);
 }
 
 bool DocumentSession::NewAnimatedCursor() {
+    return NewCursorSet(FileMode::ANI, texts::CreateANI);
+}
+
+bool DocumentSession::NewCursorSet(FileMode mode, const TextId& hint) {
     if (!Ask()) return false;
-    StartFreshSet(FileMode::ANI, kDefaultFormat);
+    StartFreshSet(mode, kDefaultFormat);
     Replaced();
-    settings_.Messages().Show(texts::CreateANI, MessageType::Information);
+    settings_.Messages().Show(hint, MessageType::Information);
     return true;
 }
 
@@ -181,7 +176,7 @@ bool DocumentSession::OpenDocument(const std::string& path) {
         return false;
     }
     fileName_ = path;
-    AddRecentFile(path);
+    settings_.AddRecentFile(path);
     Replaced();
     return true;
 }
@@ -211,7 +206,7 @@ bool DocumentSession::WriteTo(const std::string& path) {
     if (!services_.documents.Write(path, set_, how, context)) return false;
     fileName_ = path;
     MarkSaved();
-    AddRecentFile(path);
+    settings_.AddRecentFile(path);
     events_.Notify(&IEditorObserver::CaptionChanged);
     return true;
 }

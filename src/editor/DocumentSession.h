@@ -12,6 +12,7 @@
 #include "editor/EditorServices.h"
 #include "editor/ProgramSettings.h"
 #include "editor/UndoHistory.h"
+#include "services/core/Texts.h"
 #include "services/desktop/Template.h"
 
 namespace iw {
@@ -65,11 +66,6 @@ class DocumentSession {
     // For changes that undo does not cover (adding or removing images, properties).
     void MarkModified() { savedStateKnown_ = false; }
 
-    // Start-up: the set is emptied and the file name forgotten, without asking.
-    void Discard();
-    // Start-up when nothing else made a set: a new untitled one, without asking.
-    void StartUntitled();
-
     bool HasFileName() const { return !fileName_.empty(); }
     const std::string& FileName() const { return fileName_; }
     std::string DocumentName() const;  // the file's name, or "untitled"
@@ -82,13 +78,20 @@ class DocumentSession {
     const std::string& EditRequest() const { return editRequest_; }
 
   private:
+    friend class Editor;  // start-up uses Discard and StartUntitled
+
+    // Start-up: the set is emptied and the file name forgotten, without asking.
+    void Discard();
+    // Start-up when nothing else made a set: a new untitled one, without asking.
+    void StartUntitled();
     bool Ask() { return AskToSave() != MessageAnswer::Cancel; }
     void StartFreshSet(FileMode mode, const TemplateEntry& format);
+    // A cursor or an animated cursor of one blank image, then its hint.
+    bool NewCursorSet(FileMode mode, const TextId& hint);
     void Replaced(const std::vector<TemplateEntry>* formats = nullptr);
     bool WriteTo(const std::string& path);
     void SwitchMode(FileMode mode);
     void MarkSaved();
-    void AddRecentFile(const std::string& path);
     CoreContext Context() const;
 
     IconSet& set_;

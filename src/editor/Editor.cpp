@@ -7,7 +7,7 @@ namespace iw {
 
 Editor::Editor(EditorServices services, ToolSet tools)
     : services_(services),
-      settings_(services.presenter),
+      settings_(services.presenter, events_),
       tools_(events_),
       view_(events_),
       canvas_(*this, tools_, services.random, events_, std::move(tools)),
@@ -59,18 +59,17 @@ void Editor::AddUndo() {
 }
 
 bool Editor::Undo() {
-    if (!HasImage() || !history_.UndoEnabled()) return false;
-    canvas_.DropFloatingSelection();
-    history_.Undo(*EditedImage());
-    Notify(&IEditorObserver::ImageChanged);
-    Notify(&IEditorObserver::UndoStateChanged);
-    return true;
+    return StepHistory(history_.UndoEnabled(), &UndoHistory::Undo);
 }
 
 bool Editor::Repeat() {
-    if (!HasImage() || !history_.RepeatEnabled()) return false;
+    return StepHistory(history_.RepeatEnabled(), &UndoHistory::Repeat);
+}
+
+bool Editor::StepHistory(bool offered, bool (UndoHistory::*step)(IconImage&)) {
+    if (!HasImage() || !offered) return false;
     canvas_.DropFloatingSelection();
-    history_.Repeat(*EditedImage());
+    (history_.*step)(*EditedImage());
     Notify(&IEditorObserver::ImageChanged);
     Notify(&IEditorObserver::UndoStateChanged);
     return true;

@@ -120,6 +120,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void RedoLayout() override;
     void ShowCurrentImage();
     void ResetUndosRepeats();
+    // Undo or Repeat, when offered: drop a floating selection, then the step.
+    bool StepHistory(bool offered, bool (UndoHistory::*step)(IconImage&));
     void Notify(EditorEvents::Event event) const { events_.Notify(event); }
 
     EditorServices services_;

@@ -62,4 +62,15 @@ void ProgramSettings::SetStartupAction(int action) {
     settings_.SetValue(settings::Startup, NumberText(action));
 }
 
+void ProgramSettings::AddRecentFile(const std::string& path) {
+    iw::AddRecentFile(settings_, path);
+    events_.Notify(&IEditorObserver::RecentFilesChanged);
+}
+
+std::string ProgramSettings::MoveRecentFileToTop(int number) {
+    std::string path = iw::MoveRecentFileToTop(settings_, number);
+    events_.Notify(&IEditorObserver::RecentFilesChanged);
+    return path;
+}
+
 }  // namespace iw

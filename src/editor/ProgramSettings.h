@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/EditorObserver.h"
 #include "editor/EditorSettings.h"
 #include "editor/RecentFiles.h"
 #include "services/core/MessageService.h"
@@ -27,7 +28,8 @@ struct StartupFolders {
 
 class ProgramSettings {
   public:
-    explicit ProgramSettings(IMessagePresenter& presenter) : messages_(messageStore_, presenter) {}
+    ProgramSettings(IMessagePresenter& presenter, EditorEvents& events)
+        : events_(events), messages_(messageStore_, presenter) {}
 
     // Start-up: "settings.xml" and "messages.xml" from the data folder, the language, the
     // window's settings; returns the view's (Grid, Pixelsize, FitInWindow).
@@ -52,11 +54,10 @@ class ProgramSettings {
         return iw::RecentFiles(settings_);
     }
     std::vector<RecentMenuItem> RecentList() const { return LoadRecentList(settings_); }
-    void AddRecentFile(const std::string& path) { iw::AddRecentFile(settings_, path); }
+    // A file opened or saved goes to the top of the list (see RecentFiles.h for the order).
+    void AddRecentFile(const std::string& path);
     // Recent-file menu items 2 to 4 move their entry to the top; returns entry 1 ("NA").
-    std::string MoveRecentFileToTop(int number) {
-        return iw::MoveRecentFileToTop(settings_, number);
-    }
+    std::string MoveRecentFileToTop(int number);
 
     const WindowSettings& Window() const { return window_; }
     const XmlStore& Store() const { return settings_; }
@@ -68,6 +69,7 @@ class ProgramSettings {
     MessageService& Messages() { return messages_; }
 
   private:
+    EditorEvents& events_;
     XmlStore settings_;
     XmlStore messageStore_;
     MessageService messages_;

@@ -102,7 +102,6 @@ class RecordingObserver : public IEditorObserver {
     void CurrentImageChanged() override { ++events["current"]; }
     void ImageChanged() override { ++events["image"]; }
     void ColorsChanged() override { ++events["colors"]; }
-    void ToolChanged() override { ++events["tool"]; }
     void ViewChanged() override { ++events["view"]; }
     void UndoStateChanged() override { ++events["undo"]; }
     void InspectorChanged() override { ++events["inspector"]; }

@@ -135,13 +135,11 @@ struct InspectorFixes : ::testing::Test {
     InspectorController& inspector = editor.Inspector();
     const IconSet& set = editor.Set();
     // Opens `opened` in the editor and checks it against `required`.
-    InspectorState Check(const IconSet& opened, std::vector<TemplateEntry> required) {
+    InspectorState Check(const IconSet& opened,
+                         std::vector<TemplateEntry> required = kRules.required) {
         f.Open(opened);
         inspector.SetRequiredFormats(std::move(required));
         return inspector.Panel().state;
-    }
-    InspectorState Check(std::initializer_list<int> sides) {
-        return Check(Set(sides), kRules.required);
     }
 };
 
@@ -164,7 +162,7 @@ TEST_F(InspectorFixes, AddIconsInsertsBlankFormatsInOrderThenCopyImageFillsThem)
 }
 
 TEST_F(InspectorFixes, SortKeepsTheCurrentImageCurrent) {
-    ASSERT_EQ(Check({16, 32}), NotSorted);
+    ASSERT_EQ(Check(Set({16, 32})), NotSorted);
     editor.SelectImage(0);
     EXPECT_TRUE(inspector.Fix());
     EXPECT_EQ(editor.CurrentIcon(), 1);
@@ -173,7 +171,7 @@ TEST_F(InspectorFixes, SortKeepsTheCurrentImageCurrent) {
 }
 
 TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
-    ASSERT_EQ(Check({32, 24, 16}), UnneededFormats);
+    ASSERT_EQ(Check(Set({32, 24, 16})), UnneededFormats);
     f.presenter.answer = MessageAnswer::No;
     EXPECT_FALSE(inspector.Fix());
     EXPECT_EQ(set.Count(), 3);
@@ -193,7 +191,7 @@ TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
 }
 
 TEST_F(InspectorFixes, ShowPointsAtTheDuplicates) {
-    ASSERT_EQ(Check({32, 32, 16}), DuplicateFormats);
+    ASSERT_EQ(Check(Set({32, 32, 16})), DuplicateFormats);
     EXPECT_FALSE(inspector.Fix());
     EXPECT_EQ(inspector.HighlightedImages(), (std::vector<int>{0, 1}));
     EXPECT_EQ(editor.CurrentIcon(), 1);
