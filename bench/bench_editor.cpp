@@ -1,10 +1,13 @@
 // The editor's per-event work, which must stay far below one frame (16 ms): a flood fill
 // of a whole 256 x 256 image, one Pencil stroke of 100 points with the largest circle
-// brush, and the undo snapshot of a 256 x 256 image.
+// brush (alone, and as the canvas gets it: pointer events through the CanvasController to
+// the Pencil tool, with the press's undo snapshot), and the undo snapshot of a 256 x 256
+// image.
 #include <benchmark/benchmark.h>
 
 #include "document/model/IconImage.h"
 #include "editor/Brush.h"
+#include "editor/CanvasController.h"
 #include "editor/FloodFill.h"
 #include "editor/UndoHistory.h"
 
@@ -43,6 +46,33 @@ void PencilStrokeLCircle100(benchmark::State& state) {
     }
 }
 BENCHMARK(PencilStrokeLCircle100)->Unit(benchmark::kMicrosecond);
+
+// The edited image and its undo history, as the Editor keeps them for its canvas.
+struct CanvasHost final : iw::ICanvasHost {
+    iw::IconImage* EditedImage() override { return &image; }
+    void AddUndo() override { history.AddUndo(image); }
+    void StrokeFinished() override {}
+    iw::IconImage image = Image256();
+    iw::UndoHistory history;
+};
+
+void CanvasPencilStrokeLCircle100(benchmark::State& state) {
+    CanvasHost host;
+    iw::EditorEvents events;
+    iw::ToolControls tools(events);
+    iw::ClockRandomSource random;
+    iw::CanvasController canvas(host, tools, random, events);
+    tools.SetBrushShape("LCircle");
+    tools.SetForeColor(5);
+    for (auto _ : state) {
+        canvas.PointerPress({20, 20}, iw::MouseButton::Left);
+        for (int i = 1; i < 100; ++i)
+            canvas.PointerMove({20 + i, 20 + i / 2});
+        canvas.PointerRelease({119, 69});
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(CanvasPencilStrokeLCircle100)->Unit(benchmark::kMicrosecond);
 
 void AddUndo256(benchmark::State& state) {
     iw::IconImage image = Image256();

@@ -27,6 +27,9 @@ class IDocumentStore {
                        CoreContext& context) = 0;
 };
 
+// Whether `path` names an existing file (a folder is none).
+bool DocumentExists(const std::string& path);
+
 // The icon, cursor and animated cursor readers and writers on real files.
 class FileDocumentStore final : public IDocumentStore {
   public:

@@ -1,144 +1,132 @@
-// The Editor's images, view, file modes, undo and document flags.
+// The Editor's own work: which image is edited, undo, and what the parts ask of it.
 #include "editor/Editor.h"
 
 #include <algorithm>
 
-#include "editor/EditorTexts.h"
-#include "services/core/TextCatalog.h"
-
 namespace iw {
 
-Editor::Editor(EditorServices services)
-    : services_(services), messages_(messageStore_, services.presenter) {
-    DefaultRequiredFormats();
-}
+Editor::Editor(EditorServices services, ToolSet tools)
+    : services_(services),
+      settings_(services.presenter, events_),
+      tools_(events_),
+      view_(events_),
+      canvas_(*this, tools_, services.random, events_, std::move(tools)),
+      inspector_(set_, settings_.Messages(), *this, events_,
+                 DefaultRequiredFormats(settings_.Templates())),
+      session_(set_, history_, settings_, services_, *this, events_) {}
 
-// ---- Document flags ---------------------------------------------------------------------
+// ---- The image being edited -------------------------------------------------------------
 
-bool Editor::Unmodified() const {
-    return savedStateKnown_ && history_.StateId() == savedStateId_;
-}
-
-void Editor::MarkModified() {
-    savedStateKnown_ = false;
-}
-
-std::string Editor::DocumentName() const {
-    if (fileName_.empty()) return GetText(texts::Untitled);
-    return std::filesystem::path(fileName_).filename().string();
-}
-
-std::string Editor::Caption() const {
-    return DocumentName() + std::string(texts::kCaptionSuffix);
-}
-
-void Editor::ShowCaption() {
-    services_.view.SetCaption(Caption());
-}
-
-// ---- File modes -------------------------------------------------------------------------
-
-void Editor::SwitchICOMode() {
-    set_.mode = FileMode::ICO;
-}
-
-void Editor::SwitchCURMode() {
-    set_.mode = FileMode::CUR;
-}
-
-void Editor::SwitchANIMode() {
-    set_.mode = FileMode::ANI;
-}
-
-std::string Editor::ModeMenuCaption() const {
-    return GetText(set_.mode == FileMode::ICO ? texts::IconMenu : texts::CursorMenu);
-}
-
-// ---- Images and view --------------------------------------------------------------------
-
-void Editor::SelectImage(int index) {
-    if (index < 0 || index >= set_.Count()) return;
-    drag_.reset();
-    state_.CurrentIcon = static_cast<std::int16_t>(index);
-    // Snapshots carry no image identity: another image must not receive them.
-    ResetUndosRepeats();
-    RunLayout();
-}
-
-IconImage& Editor::CurrentImage() {
-    return set_.Image(std::clamp<int>(state_.CurrentIcon, 0, std::max(set_.LastIcon(), 0)));
+IconImage* Editor::EditedImage() {
+    if (set_.Empty()) return nullptr;
+    return &set_.Image(std::clamp(currentIcon_, 0, set_.LastIcon()));
 }
 
 const IconImage& Editor::CurrentImage() const {
-    return set_.Image(std::clamp<int>(state_.CurrentIcon, 0, std::max(set_.LastIcon(), 0)));
+    static const IconImage kNoImage;
+    if (set_.Empty()) return kNoImage;
+    return set_.Image(std::clamp(currentIcon_, 0, set_.LastIcon()));
 }
 
-void Editor::RunLayout() {
+void Editor::ShowCurrentImage() {
     if (!HasImage()) return;
     const IconInfo& info = CurrentImage().info;
-    LayoutCanvas(state_, viewport_, info.Width(), info.Height());
+    view_.ShowImage(info.Width(), info.Height());
 }
 
-void Editor::SetViewport(ViewportSize viewport) {
-    viewport_ = viewport;
-    RunLayout();
+void Editor::SelectImage(int index) {
+    if (index < 0 || index >= set_.Count()) return;
+    canvas_.DropFloatingSelection();
+    canvas_.CancelStroke();
+    currentIcon_ = index;
+    // Snapshots carry no image identity: another image must not receive them.
+    ResetUndosRepeats();
+    ShowCurrentImage();
+    Notify(&IEditorObserver::CurrentImageChanged);
 }
 
-void Editor::ZoomIn() {
-    if (!HasImage()) return;
-    const IconInfo& info = CurrentImage().info;
-    iw::ZoomIn(state_, viewport_, info.Width(), info.Height());
-}
-
-void Editor::ZoomOut() {
-    if (!HasImage()) return;
-    const IconInfo& info = CurrentImage().info;
-    iw::ZoomOut(state_, viewport_, info.Width(), info.Height());
-}
-
-void Editor::NormalZoom() {
-    if (!HasImage()) return;
-    const IconInfo& info = CurrentImage().info;
-    iw::NormalZoom(state_, viewport_, info.Width(), info.Height());
-}
-
-void Editor::SetFitInWindow(bool fit) {
-    state_.FitInWindow = fit;
-    RunLayout();
-}
-
-void Editor::ToggleGrid() {
-    iw::ToggleGrid(state_);
-    RunLayout();
-}
-
-ViewportSize Editor::CanvasSize() const {
-    if (!HasImage()) return {};
-    const IconInfo& info = CurrentImage().info;
-    return iw::CanvasSize(state_, info.Width(), info.Height());
+void Editor::RedoLayout() {
+    ShowCurrentImage();
 }
 
 // ---- Undo -------------------------------------------------------------------------------
 
 void Editor::AddUndo() {
-    if (!HasImage()) return;
-    history_.AddUndo(CurrentImage());
+    IconImage* image = EditedImage();
+    if (!image) return;
+    history_.AddUndo(*image);
+    Notify(&IEditorObserver::UndoStateChanged);
 }
 
 bool Editor::Undo() {
-    if (!HasImage() || !history_.UndoEnabled()) return false;
-    if (dropFloatingSelection) dropFloatingSelection();
-    return history_.Undo(CurrentImage());
+    return StepHistory(history_.UndoEnabled(), &UndoHistory::Undo);
 }
 
 bool Editor::Repeat() {
-    if (!HasImage() || !history_.RepeatEnabled()) return false;
-    if (dropFloatingSelection) dropFloatingSelection();
-    return history_.Repeat(CurrentImage());
+    return StepHistory(history_.RepeatEnabled(), &UndoHistory::Repeat);
+}
+
+bool Editor::StepHistory(bool offered, bool (UndoHistory::*step)(IconImage&)) {
+    if (!HasImage() || !offered) return false;
+    canvas_.DropFloatingSelection();
+    (history_.*step)(*EditedImage());
+    Notify(&IEditorObserver::ImageChanged);
+    Notify(&IEditorObserver::UndoStateChanged);
+    return true;
 }
 
 void Editor::ResetUndosRepeats() {
     history_.ResetUndosRepeats();
+    Notify(&IEditorObserver::UndoStateChanged);
+}
+
+// ---- Windows over the image ------------------------------------------------------------
+
+std::unique_ptr<ColorAdjustments> Editor::AdjustColors(IAdjustmentsObserver* window) {
+    IconImage* image = EditedImage();
+    if (!image) return nullptr;
+    canvas_.DropFloatingSelection();
+    AddUndo();
+    adjustments_.window = window;
+    return std::make_unique<ColorAdjustments>(*image, &adjustments_);
+}
+
+void Editor::AdjustmentsRelay::ImageChanged() {
+    if (window) window->ImageChanged();
+    editor_.Notify(&IEditorObserver::ImageChanged);
+}
+
+void Editor::AdjustmentsRelay::Closed(bool kept) {
+    if (window) window->Closed(kept);
+    if (kept) editor_.inspector_.Check();
+}
+
+// ---- What the parts report --------------------------------------------------------------
+
+void Editor::StrokeFinished() {
+    inspector_.Check();
+}
+
+void Editor::SetReplaced(const std::vector<TemplateEntry>* formats) {
+    canvas_.Reset();
+    currentIcon_ = 0;
+    ResetUndosRepeats();
+    inspector_.StartOver(formats ? *formats : DefaultRequiredFormats(settings_.Templates()));
+    ShowCurrentImage();
+    Notify(&IEditorObserver::SetChanged);
+    Notify(&IEditorObserver::CurrentImageChanged);
+}
+
+void Editor::ImagesChanged(int current, bool moved) {
+    session_.MarkModified();
+    currentIcon_ = std::clamp(current, 0, std::max(set_.LastIcon(), 0));
+    if (!moved) {
+        canvas_.CancelStroke();
+        ResetUndosRepeats();
+    }
+    ShowCurrentImage();
+    Notify(&IEditorObserver::SetChanged);
+    Notify(&IEditorObserver::CurrentImageChanged);
 }
 
 }  // namespace iw

@@ -1,51 +1,32 @@
 #pragma once
-// The main window's logic without the window: the icon set, the editor state, undo, the
-// inspector, settings, templates and the document lifecycle in one object. A window owns
-// one Editor, forwards its events to it and draws from its state; everything it shows can
-// be read back from here after each call.
+// The main window's logic without the window. One Editor per main window owns the one icon
+// set and the parts that work on it, each in a file of its own:
+// - Document(): the document lifecycle (new, open, save, ask to save, recent files, modes);
+// - View(): zoom, fit and grid;
+// - Tools(): the current tool, its options and the colours;
+// - Canvas(): pointer and key events for the current tool, the floating selection;
+// - Inspector(): the inspector panel and its fix;
+// - Settings(): the settings and message stores, the window's settings, the templates.
+// The Editor itself holds which image is edited and the undo history, wires the parts
+// together and runs start-up and exit. The window calls commands (on the Editor or a part),
+// follows the editor through an IEditorObserver and paints from the read-only views.
 
-#include <filesystem>
-#include <functional>
-#include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "document/model/IconSet.h"
-#include "editor/Airbrush.h"
-#include "editor/DocumentStore.h"
-#include "editor/EditorSettings.h"
-#include "editor/EditorState.h"
-#include "editor/Geometry.h"
-#include "editor/Inspector.h"
-#include "editor/MainWindowView.h"
+#include "editor/CanvasController.h"
+#include "editor/DocumentSession.h"
+#include "editor/EditorObserver.h"
+#include "editor/EditorServices.h"
+#include "editor/InspectorController.h"
+#include "editor/ProgramSettings.h"
+#include "editor/ToolControls.h"
 #include "editor/UndoHistory.h"
-#include "editor/Zoom.h"
-#include "services/core/MessageService.h"
-#include "services/core/UserInterface.h"
-#include "services/core/XmlStore.h"
-#include "services/desktop/Template.h"
-#include "services/desktop/TemplateLibrary.h"
+#include "editor/ViewController.h"
+#include "imaging/ColorAdjustments.h"
 
 namespace iw {
-
-struct EditorServices {
-    IMessagePresenter& presenter;
-    IProgressSink& progress;
-    ILogSink& log;
-    IDocumentStore& documents;
-    IMainWindowView& view;
-    IRandomSource& random;
-};
-
-// Where start-up finds its files. Empty members take the program's defaults: the per-user
-// data folder, the program's templates beside the executable or in the installed data
-// folder, and "Templates" in the data folder.
-struct StartupFolders {
-    std::filesystem::path dataFolder;
-    std::filesystem::path programTemplates;
-    std::filesystem::path userTemplates;
-};
 
 struct StartupResult {
     bool showStartupDialog = false;  // the start-up action made nothing and no file was given
@@ -53,20 +34,14 @@ struct StartupResult {
     bool previousRunEndedCleanly = true;
 };
 
-enum class MouseButton { Left, Right };
-
-// What a canvas event changed, so the window repaints only what it must.
-struct CanvasUpdate {
-    bool imageChanged = false;   // redraw the canvas and the preview
-    bool colorsChanged = false;  // repaint the colour swatches and sliders
-};
-
-// The formats a set is checked against when no template was chosen for it.
-inline constexpr std::string_view kDefaultTemplateName = "Windows Application";
-
-class Editor {
+class Editor final : private ICanvasHost, private IDocumentHost, private IInspectorHost {
   public:
-    explicit Editor(EditorServices services);
+    explicit Editor(EditorServices services, ToolSet tools = StandardTools());
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    void AddObserver(IEditorObserver& observer) { events_.Add(observer); }
+    void RemoveObserver(IEditorObserver& observer) { events_.Remove(observer); }
 
     // ---- Start-up and exit -------------------------------------------------------------
     // The main window's load, steps 1 to 8: caption, the two stores, the settings, splash
@@ -83,150 +58,84 @@ class Editor {
     // The window unloads: the settings and the message store are written back.
     void Shutdown();
 
-    // ---- Document lifecycle ------------------------------------------------------------
-    // Ask to save: No without asking when there are no unsaved changes; otherwise "Save
-    // changes to %f?" or "Save changes to untitled?" (Yes/No/Cancel). Yes saves, and a save
-    // that fails or is not given a path turns the answer into Cancel. The answer is kept.
-    MessageAnswer AskToSave();
-    MessageAnswer LastAnswer() const { return lastAnswer_; }
-    // New, open and the start-up tiles all ask first and do nothing on Cancel.
-    bool NewDocument();  // one blank 32 x 32 image of 32 bits
-    bool NewBlankIcon(int kind);
-    bool NewCursor();          // one blank image, cursor mode, the "CreateCursor" hint
-    bool NewAnimatedCursor();  // one blank image, animated cursor mode, the "CreateANI" hint
-    bool NewFromTemplate(const IconTemplate& source);
-    // A file that does not exist shows "This file could not be found." and changes nothing.
-    // A file that cannot be read leaves a new untitled set.
-    bool OpenDocument(const std::string& path);
-    // The recent-files menu items 1 to 4.
-    bool OpenRecent(int number);
-    // Save to the file name, or ask for one (Save As) when the set has none.
-    bool Save();
-    // Before writing over an existing file: "The file %f already exists.  OK to overwrite?"
-    // and only Yes goes on.
-    bool SaveAs(const std::string& path);
-
-    bool HasFileName() const { return !fileName_.empty(); }
-    // True after new, open and save, and again after undoing back to the saved state.
-    bool Unmodified() const;
-    // For changes that undo does not cover (adding or removing images, properties).
-    void MarkModified();
-    const std::string& FileName() const { return fileName_; }
-    std::string DocumentName() const;  // the file's name, or "untitled"
-    std::string Caption() const;       // document name + " - Quorvale Iconwright"
-
-    // ---- File modes --------------------------------------------------------------------
-    void SwitchICOMode();
-    void SwitchCURMode();
-    void SwitchANIMode();
-    std::string ModeMenuCaption() const;  // "&Icon" or "&Cursor"
-
-    // ---- Images and view ---------------------------------------------------------------
-    // Makes another image current; the undo stacks are reset and the layout runs.
-    void SelectImage(int index);
-    bool HasImage() const { return set_.Count() > 0; }
-    IconImage& CurrentImage();
+    // ---- The set and the image being edited --------------------------------------------
+    const IconSet& Set() const { return set_; }
+    bool HasImage() const { return !set_.Empty(); }
+    // CurrentIcon: the index of the image being edited.
+    int CurrentIcon() const override { return currentIcon_; }
+    // The image being edited; a blank 1 x 1 image while the set is empty.
     const IconImage& CurrentImage() const;
-    // The window's canvas area changed size: runs the layout.
-    void SetViewport(ViewportSize viewport);
-    void ZoomIn();
-    void ZoomOut();
-    void NormalZoom();
-    void SetFitInWindow(bool fit);
-    void ToggleGrid();
-    ViewportSize CanvasSize() const;
-
-    // ---- Canvas ------------------------------------------------------------------------
-    // Pointer events in image cells (see CanvasToImage). Painting tools record an undo
-    // snapshot on press; the left button paints with the foreground colour and the right
-    // with the background colour.
-    CanvasUpdate PointerPress(Point cell, MouseButton button);
-    CanvasUpdate PointerMove(Point cell);
-    CanvasUpdate PointerRelease(Point cell);
-    bool Dragging() const { return drag_.has_value(); }
-    std::string StatusTextAt(Point cell) const;
+    // Another image becomes current: a floating selection is dropped into the old one, the
+    // undo stacks are reset and the layout runs.
+    void SelectImage(int index) override;
 
     // ---- Undo --------------------------------------------------------------------------
-    // Records the current image before a change made outside the canvas (effects,
-    // adjustments, paste).
-    void AddUndo();
+    // Records the current image before a change made outside the canvas (effects, paste).
+    void AddUndo() override;
+    // Undo and Repeat drop a floating selection into the image first.
     bool Undo();
     bool Repeat();
-    void ResetUndosRepeats();
     bool UndoEnabled() const { return history_.UndoEnabled(); }
     bool RepeatEnabled() const { return history_.RepeatEnabled(); }
-    // Set by the window: drops a floating selection into the image before Undo or Repeat.
-    std::function<void()> dropFloatingSelection;
+    const UndoHistory& History() const { return history_; }
 
-    // ---- Inspector ---------------------------------------------------------------------
-    void RunInspector();
-    const InspectorPanel& InspectorView() const { return inspector_.Panel(); }
-    // cmdFix: the fix of the state shown. Returns whether the set changed.
-    bool FixInspectorProblem();
-    // The images the "Show" fix points at, for the window to highlight.
-    const std::vector<int>& HighlightedImages() const { return highlighted_; }
-    void SetCustomFormats(bool custom);
-    bool CustomFormats() const { return rules_.custom; }
-    const std::vector<TemplateEntry>& RequiredFormats() const { return rules_.required; }
-    void SetRequiredFormats(std::vector<TemplateEntry> formats) {
-        rules_.required = std::move(formats);
-    }
+    // ---- Windows over the image --------------------------------------------------------
+    // The adjustments window's logic on the image being edited (nullptr without one). An
+    // undo snapshot is recorded first. Each recomputation reaches `window` (if any) and the
+    // editor's observers as ImageChanged; when OK closes it the inspector looks again. One
+    // at a time: it must be gone before the next is made or the set changes.
+    std::unique_ptr<ColorAdjustments> AdjustColors(IAdjustmentsObserver* window = nullptr);
 
     // ---- Parts -------------------------------------------------------------------------
-    IconSet& Set() { return set_; }
-    const IconSet& Set() const { return set_; }
-    EditorState& State() { return state_; }
-    const EditorState& State() const { return state_; }
-    WindowSettings& Window() { return window_; }
-    const WindowSettings& Window() const { return window_; }
-    XmlStore& SettingsStore() { return settingsStore_; }
-    XmlStore& MessageStore() { return messageStore_; }
-    MessageService& Messages() { return messages_; }
-    TemplateLibrary& Templates() { return templates_; }
-    const UndoHistory& History() const { return history_; }
-    const std::string& Language() const { return language_; }
-    // The "You are editing an icon for ..." request file, when one was given.
-    const std::string& EditRequest() const { return editRequest_; }
+    DocumentSession& Document() { return session_; }
+    const DocumentSession& Document() const { return session_; }
+    ViewController& View() { return view_; }
+    const ViewController& View() const { return view_; }
+    ToolControls& Tools() { return tools_; }
+    const ToolControls& Tools() const { return tools_; }
+    CanvasController& Canvas() { return canvas_; }
+    const CanvasController& Canvas() const { return canvas_; }
+    InspectorController& Inspector() { return inspector_; }
+    const InspectorController& Inspector() const { return inspector_; }
+    ProgramSettings& Settings() { return settings_; }
+    const ProgramSettings& Settings() const { return settings_; }
 
   private:
-    struct Drag {
-        MouseButton button;
-        Point anchor;
-        Point last;
-        IconImage before;  // the image as it was at the press, for rubber-band shapes
+    // Passes the adjustments' events on to their window and to the editor's observers.
+    class AdjustmentsRelay final : public IAdjustmentsObserver {
+      public:
+        explicit AdjustmentsRelay(Editor& editor) : editor_(editor) {}
+        void ImageChanged() override;
+        void Closed(bool kept) override;
+        IAdjustmentsObserver* window = nullptr;
+
+      private:
+        Editor& editor_;
     };
 
-    void StartFreshSet(FileMode mode, int widthMinus1, int heightMinus1, int bitCount, int png);
-    void AfterNewSet();
-    bool WriteTo(const std::string& path);
-    void RunLayout();
-    void DefaultRequiredFormats();
-    void ShowCaption();
-    CanvasUpdate PaintAt(Point cell, bool first);
-    CanvasUpdate PickAt(Point cell, MouseButton button);
-    PackedColor PaintColor() const;
+    IconImage* EditedImage() override;
+    void StrokeFinished() override;
+    void SetReplaced(const std::vector<TemplateEntry>* formats) override;
+    void ImagesChanged(int current, bool moved) override;
+    void RedoLayout() override;
+    void ShowCurrentImage();
+    void ResetUndosRepeats();
+    // Undo or Repeat, when offered: drop a floating selection, then the step.
+    bool StepHistory(bool offered, bool (UndoHistory::*step)(IconImage&));
+    void Notify(EditorEvents::Event event) const { events_.Notify(event); }
 
     EditorServices services_;
-    XmlStore settingsStore_;
-    XmlStore messageStore_;
-    MessageService messages_;
-    TemplateLibrary templates_;
+    EditorEvents events_;
+    ProgramSettings settings_;
     IconSet set_;
-    EditorState state_;
-    WindowSettings window_;
+    int currentIcon_ = 0;
     UndoHistory history_;
-    Inspector inspector_;
-    InspectorRules rules_;
-    std::vector<int> highlighted_;
-    ViewportSize viewport_{800, 600};
-    std::optional<Drag> drag_;
-
-    std::string fileName_;
-    std::string language_ = "English";
-    std::string editRequest_;
-    MessageAnswer lastAnswer_ = MessageAnswer::No;
-    bool savedStateKnown_ = true;
-    std::uint64_t savedStateId_ = 0;
+    ToolControls tools_;
+    ViewController view_;
+    CanvasController canvas_;
+    InspectorController inspector_;
+    DocumentSession session_;
+    AdjustmentsRelay adjustments_{*this};
 };
 
 }  // namespace iw

@@ -18,16 +18,15 @@ int ReadInteger(const XmlStore& store, std::string_view key, int fallback, int l
 
 int ParsePixelSize(const std::string& text) {
     const std::optional<double> value = ParseNumber(text);
-    if (!value || *value >= 49.0) return EditorState::kMaxPixelSize;
-    if (*value < 1.0) return EditorState::kMinPixelSize;
-    return std::clamp(RoundHalfEven(*value), EditorState::kMinPixelSize,
-                      EditorState::kMaxPixelSize);
+    if (!value || *value >= 49.0) return ViewState::kMaxPixelSize;
+    if (*value < 1.0) return ViewState::kMinPixelSize;
+    return std::clamp(RoundHalfEven(*value), ViewState::kMinPixelSize, ViewState::kMaxPixelSize);
 }
 
-void LoadSettings(const XmlStore& store, EditorState& state, WindowSettings& window) {
-    state.ShowGrid = store.GetBool(settings::Grid, false);
-    state.PixelSize = ParsePixelSize(store.GetValue(settings::Pixelsize, "32"));
-    state.FitInWindow = store.GetBool(settings::FitInWindow, true);
+void LoadSettings(const XmlStore& store, ViewState& view, WindowSettings& window) {
+    view.ShowGrid = store.GetBool(settings::Grid, false);
+    view.PixelSize = ParsePixelSize(store.GetValue(settings::Pixelsize, "32"));
+    view.FitInWindow = store.GetBool(settings::FitInWindow, true);
     window.previewBackground =
         static_cast<PreviewBackground>(ReadInteger(store, settings::PreviewBackground, 0, 0, 2));
     window.showInspector = store.GetBool(settings::ShowInspector, true);
@@ -47,16 +46,16 @@ void LoadStartupSettings(const XmlStore& store, WindowSettings& window) {
     window.blankIcon = ReadInteger(store, settings::BlankIcon, 0, -32768, 32767);
 }
 
-void SaveSettings(XmlStore& store, const EditorState& state, const WindowSettings& window) {
+void SaveSettings(XmlStore& store, const ViewState& view, const WindowSettings& window) {
     store.SetValue(settings::State, NumberText(window.windowState));
     store.SetValue(settings::Width, NumberText(window.widthTwips));
     store.SetValue(settings::Height, NumberText(window.heightTwips));
-    store.SetBool(settings::Grid, state.ShowGrid);
-    store.SetBool(settings::FitInWindow, state.FitInWindow);
+    store.SetBool(settings::Grid, view.ShowGrid);
+    store.SetBool(settings::FitInWindow, view.FitInWindow);
     store.SetValue(settings::PreviewBackground,
                    NumberText(static_cast<int>(window.previewBackground)));
     store.SetValue(settings::ShowInspector, window.showInspector ? "1" : "0");
-    store.SetValue(settings::Pixelsize, NumberText(state.PixelSize));
+    store.SetValue(settings::Pixelsize, NumberText(view.PixelSize));
 }
 
 int TwipsToPixels(int twips, int dotsPerInch) {

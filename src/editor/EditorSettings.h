@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "editor/EditorState.h"
+#include "editor/Zoom.h"
 #include "services/core/XmlStore.h"
 
 namespace iw {
@@ -36,13 +36,13 @@ struct WindowSettings {
 int ParsePixelSize(const std::string& text);
 
 // Reads Grid, Pixelsize, FitInWindow, PreviewBackground and ShowInspector.
-void LoadSettings(const XmlStore& store, EditorState& state, WindowSettings& window);
+void LoadSettings(const XmlStore& store, ViewState& view, WindowSettings& window);
 // Reads the keys the start-up needs besides: State, Width, Height, UseFont, Splash,
 // Startup and BlankIcon.
 void LoadStartupSettings(const XmlStore& store, WindowSettings& window);
 // Writes State, Width, Height, Grid, FitInWindow, PreviewBackground, ShowInspector ("1" or
 // "0") and Pixelsize.
-void SaveSettings(XmlStore& store, const EditorState& state, const WindowSettings& window);
+void SaveSettings(XmlStore& store, const ViewState& view, const WindowSettings& window);
 
 // Screen pixels for a size in twips (15 twips a pixel at 96 dots per inch).
 int TwipsToPixels(int twips, int dotsPerInch = 96);

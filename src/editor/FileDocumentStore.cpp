@@ -1,9 +1,16 @@
+#include <filesystem>
+
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "editor/DocumentStore.h"
 
 namespace iw {
+
+bool DocumentExists(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && std::filesystem::is_regular_file(path, ec);
+}
 
 bool FileDocumentStore::Read(const std::string& path, IconSet& set, CoreContext& context) {
     return ReadIconFile(path, set, context);

@@ -2,7 +2,7 @@
 // The Gradient tool: the whole image from the foreground colour to the background colour.
 
 #include "document/model/IconImage.h"
-#include "editor/EditorState.h"
+#include "editor/ToolState.h"
 
 namespace iw {
 

@@ -15,6 +15,21 @@ IconFormat FormatOf(const TemplateEntry& entry) {
     return {entry.Width(), entry.Height(), entry.bits};
 }
 
+IconImage BlankImage(const TemplateEntry& format) {
+    IconImage image;
+    image.info.widthMinus1 = format.widthMinus1;
+    image.info.heightMinus1 = format.heightMinus1;
+    image.info.bitCount = format.bits;
+    image.info.png = format.compressed;
+    // A fresh 32-bit image is fully transparent by its zero alpha; lower depths mark
+    // transparency in plane 0, so every depth gets the marker.
+    for (int x = 0; x < format.Width(); ++x) {
+        for (int y = 0; y < format.Height(); ++y)
+            image.Color(x, y) = TransparentColor;
+    }
+    return image;
+}
+
 bool ComesBefore(const IconFormat& a, const IconFormat& b) {
     const int areaA = a.width * a.height;
     const int areaB = b.width * b.height;

@@ -34,6 +34,9 @@ std::vector<int> SortIntoStandardOrder(IconSet& set);
 // are.
 bool IsBlank(const IconImage& image);
 
+// A new image of `format` (its sides, depth and compressed flag) with every pixel transparent.
+IconImage BlankImage(const TemplateEntry& format);
+
 // Groups of two or more images that share a format, each group in index order.
 std::vector<std::vector<int>> FindDuplicates(const IconSet& set);
 

@@ -1,7 +1,8 @@
 #pragma once
 // What the core asks of the main window beyond message boxes and the status bar: the
-// effects that only a window can have. Everything else the window shows (menu checks,
-// captions, enabled states) it reads from the Editor's state after each call.
+// effects that only a window can have. Everything else the window shows (caption, menu
+// checks, enabled states) it reads back from the Editor's parts when an IEditorObserver
+// event names it.
 
 #include <optional>
 #include <string>
@@ -15,7 +16,6 @@ struct WindowSettings;
 class IMainWindowView {
   public:
     virtual ~IMainWindowView() = default;
-    virtual void SetCaption(const std::string& caption) = 0;
     // Use "Segoe UI" for the window's texts, or the desktop's font.
     virtual void ApplyUseFont(bool useFont) = 0;
     virtual void ShowSplash() = 0;

@@ -1,13 +1,9 @@
 #pragma once
-// The status bar text for the pixel under the mouse, and the colour entry boxes beside the
-// red, green, blue and alpha sliders.
+// The status bar text for the pixel under the mouse.
 
-#include <optional>
 #include <string>
-#include <string_view>
 
 #include "document/model/IconImage.h"
-#include "editor/EditorState.h"
 
 namespace iw {
 
@@ -19,22 +15,5 @@ std::string PixelStatusText(const IconImage& image, int x, int y);
 
 // The name of a standard colour ("Maroon"), or "" for any other colour.
 std::string StandardColorName(PackedColor color);
-
-enum class Channel { Red, Green, Blue, Alpha };
-
-// A channel box accepts a numeric value with 0 <= value < 256 (a fraction is rounded,
-// halves to even); anything else gives no value.
-std::optional<int> ParseChannelEntry(std::string_view text);
-
-// What typing into a channel box does. A valid red, green or blue value changes that
-// channel of the foreground colour (a marker foreground starts from black); an invalid one
-// is ignored. A valid alpha sets the current alpha; an invalid alpha entry is replaced by
-// "255", which then sets the alpha to 255. Returns the text the box should show afterwards
-// when it must change, else nothing.
-std::optional<std::string> ApplyChannelEntry(EditorState& state, Channel channel,
-                                             std::string_view text);
-
-// The slider values for the foreground colour (markers show as black).
-int ChannelValue(const EditorState& state, Channel channel);
 
 }  // namespace iw

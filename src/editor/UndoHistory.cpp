@@ -16,8 +16,8 @@ void CopyCorner(const IconImage& from, IconImage& to, int width, int height) {
 }
 
 UndoHistory::UndoHistory() {
-    undo_.resize(kLevels);
-    redo_.resize(kLevels);
+    undoPixels_.resize(kLevels);
+    redoPixels_.resize(kLevels);
     undoIds_.assign(kLevels, 0);
     redoIds_.assign(kLevels, 0);
 }
@@ -28,9 +28,9 @@ UndoHistory::UndoHistory() {
 // outside the width by height corner differ, but no snapshot is ever read outside that
 // corner, and the stacks are reset whenever the size changes.
 void UndoHistory::AddUndo(const IconImage& current) {
-    std::rotate(undo_.rbegin(), undo_.rbegin() + 1, undo_.rend());
+    std::rotate(undoPixels_.rbegin(), undoPixels_.rbegin() + 1, undoPixels_.rend());
     std::rotate(undoIds_.rbegin(), undoIds_.rbegin() + 1, undoIds_.rend());
-    CopyCorner(current, undo_[0], ImageWidth(current), ImageHeight(current));
+    CopyCorner(current, undoPixels_[0], ImageWidth(current), ImageHeight(current));
     undoIds_[0] = stateId_;
     undoCount_ = std::min(undoCount_ + 1, kLevels - 1);
     stateId_ = nextId_++;
@@ -40,16 +40,16 @@ bool UndoHistory::Undo(IconImage& current) {
     if (undoCount_ < 0) return false;
     const int width = ImageWidth(current);
     const int height = ImageHeight(current);
-    std::rotate(redo_.rbegin(), redo_.rbegin() + 1, redo_.rend());
+    std::rotate(redoPixels_.rbegin(), redoPixels_.rbegin() + 1, redoPixels_.rend());
     std::rotate(redoIds_.rbegin(), redoIds_.rbegin() + 1, redoIds_.rend());
-    CopyCorner(current, redo_[0], width, height);
+    CopyCorner(current, redoPixels_[0], width, height);
     redoIds_[0] = stateId_;
 
-    CopyCorner(undo_[0], current, width, height);
+    CopyCorner(undoPixels_[0], current, width, height);
     current.originalPng.clear();
     stateId_ = undoIds_[0];
     // One level up: level i receives level i + 1.
-    std::rotate(undo_.begin(), undo_.begin() + 1, undo_.end());
+    std::rotate(undoPixels_.begin(), undoPixels_.begin() + 1, undoPixels_.end());
     std::rotate(undoIds_.begin(), undoIds_.begin() + 1, undoIds_.end());
     undoCount_ -= 1;
     redoCount_ = std::min(redoCount_ + 1, kLevels - 1);
@@ -59,10 +59,10 @@ bool UndoHistory::Undo(IconImage& current) {
 bool UndoHistory::Repeat(IconImage& current) {
     if (redoCount_ < 0) return false;
     AddUndo(current);
-    CopyCorner(redo_[0], current, ImageWidth(current), ImageHeight(current));
+    CopyCorner(redoPixels_[0], current, ImageWidth(current), ImageHeight(current));
     current.originalPng.clear();
     stateId_ = redoIds_[0];
-    std::rotate(redo_.begin(), redo_.begin() + 1, redo_.end());
+    std::rotate(redoPixels_.begin(), redoPixels_.begin() + 1, redoPixels_.end());
     std::rotate(redoIds_.begin(), redoIds_.begin() + 1, redoIds_.end());
     redoCount_ -= 1;
     return true;

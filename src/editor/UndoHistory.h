@@ -1,8 +1,8 @@
 #pragma once
-// Undo and Repeat: two stacks of whole-image snapshots of the image being edited, twenty
-// levels each, level 0 the newest. A snapshot holds pixels only (the current image's width
-// by height cells of both planes), not the image's size, depth or place in the set, so the
-// owner must call ResetUndosRepeats whenever the current image or its size changes and
+// Undo and Repeat: two stacks of whole-image snapshots of the image being edited, UndoPixels
+// and RedoPixels, twenty levels each, level 0 the newest. A snapshot holds pixels only (the current
+// image's width by height cells of both planes), not the image's size, depth or place in the set,
+// so the owner must call ResetUndosRepeats whenever the current image or its size changes and
 // whenever a set is opened or made.
 
 #include <cstdint>
@@ -43,13 +43,18 @@ class UndoHistory {
     // state back. The document compares it with the identity it had when it was saved.
     std::uint64_t StateId() const { return stateId_; }
 
-    // A level's snapshot, for inspection.
-    const IconImage& UndoLevel(int level) const { return undo_[static_cast<std::size_t>(level)]; }
-    const IconImage& RedoLevel(int level) const { return redo_[static_cast<std::size_t>(level)]; }
+    // The snapshot at a level of each stack (0 the newest), both planes as IconPixels holds
+    // them.
+    const IconImage& UndoPixels(int level) const {
+        return undoPixels_[static_cast<std::size_t>(level)];
+    }
+    const IconImage& RedoPixels(int level) const {
+        return redoPixels_[static_cast<std::size_t>(level)];
+    }
 
   private:
-    std::vector<IconImage> undo_;
-    std::vector<IconImage> redo_;
+    std::vector<IconImage> undoPixels_;
+    std::vector<IconImage> redoPixels_;
     std::vector<std::uint64_t> undoIds_;
     std::vector<std::uint64_t> redoIds_;
     int undoCount_ = -1;

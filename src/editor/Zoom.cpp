@@ -27,7 +27,7 @@ int CapPixelSize(int pixelSize, int width, int height) {
     return pixelSize;
 }
 
-void LayoutCanvas(EditorState& state, ViewportSize viewport, int width, int height) {
+void LayoutCanvas(ViewState& state, ViewportSize viewport, int width, int height) {
     width = SafeSide(width);
     height = SafeSide(height);
     int size = state.PixelSize;
@@ -36,38 +36,11 @@ void LayoutCanvas(EditorState& state, ViewportSize viewport, int width, int heig
         size = std::min((viewport.width - kFitMargin) / width,
                         (viewport.height - kFitMargin) / height);
     }
-    size = std::clamp(size, EditorState::kMinPixelSize, EditorState::kMaxPixelSize);
+    size = std::clamp(size, ViewState::kMinPixelSize, ViewState::kMaxPixelSize);
     state.PixelSize = CapPixelSize(size, width, height);
 }
 
-void ZoomIn(EditorState& state, ViewportSize viewport, int width, int height) {
-    state.PixelSize = CapPixelSize(state.PixelSize + 1, width, height);
-    state.FitInWindow = false;
-    LayoutCanvas(state, viewport, width, height);
-}
-
-void ZoomOut(EditorState& state, ViewportSize viewport, int width, int height) {
-    state.PixelSize -= 1;
-    state.FitInWindow = false;
-    LayoutCanvas(state, viewport, width, height);
-}
-
-void NormalZoom(EditorState& state, ViewportSize viewport, int width, int height) {
-    state.PixelSize = 1;
-    state.FitInWindow = false;
-    LayoutCanvas(state, viewport, width, height);
-}
-
-void SetFitInWindow(EditorState& state, bool fit, ViewportSize viewport, int width, int height) {
-    state.FitInWindow = fit;
-    LayoutCanvas(state, viewport, width, height);
-}
-
-void ToggleGrid(EditorState& state) {
-    state.ShowGrid = !state.ShowGrid;
-}
-
-ViewportSize CanvasSize(const EditorState& state, int width, int height) {
+ViewportSize CanvasSize(const ViewState& state, int width, int height) {
     return {width * state.PixelSize, height * state.PixelSize};
 }
 

@@ -2,10 +2,19 @@
 // The zoom of the canvas: PixelSize, fit-in-window and the cap that keeps a large image
 // from growing past 768 screen pixels.
 
-#include "editor/EditorState.h"
 #include "editor/Geometry.h"
 
 namespace iw {
+
+// How the canvas shows the image; read at start-up and written at exit.
+struct ViewState {
+    static constexpr int kMinPixelSize = 1;
+    static constexpr int kMaxPixelSize = 48;
+
+    int PixelSize = 32;  // screen pixels per image pixel, 1..48 after every layout
+    bool FitInWindow = true;
+    bool ShowGrid = false;
+};
 
 // The area the canvas lies in, in screen pixels.
 struct ViewportSize {
@@ -22,20 +31,10 @@ int CapPixelSize(int pixelSize, int width, int height);
 // The main window's layout: with FitInWindow set, PixelSize becomes the smaller of
 // (viewport width - 32) / width and (viewport height - 32) / height; then it is clamped to
 // 1..48 and capped. Runs after every resize and every zoom.
-void LayoutCanvas(EditorState& state, ViewportSize viewport, int width, int height);
-
-// Zoom in (+1, then the cap), zoom out (-1) and normal zoom (1): each turns FitInWindow off
-// and runs the layout.
-void ZoomIn(EditorState& state, ViewportSize viewport, int width, int height);
-void ZoomOut(EditorState& state, ViewportSize viewport, int width, int height);
-void NormalZoom(EditorState& state, ViewportSize viewport, int width, int height);
-// The fit-in-window menu item: sets or clears FitInWindow and runs the layout.
-void SetFitInWindow(EditorState& state, bool fit, ViewportSize viewport, int width, int height);
-// The grid toggle: flips ShowGrid (the window mirrors it on the tool bar's "Grid" button).
-void ToggleGrid(EditorState& state);
+void LayoutCanvas(ViewState& state, ViewportSize viewport, int width, int height);
 
 // The canvas's size on screen: width * PixelSize by height * PixelSize.
-ViewportSize CanvasSize(const EditorState& state, int width, int height);
+ViewportSize CanvasSize(const ViewState& state, int width, int height);
 
 // The image cell under a canvas position. Positions left of or above the canvas give
 // negative cells (rounded down, not towards zero), which the plotting routine drops.

@@ -4,8 +4,8 @@
 
 namespace iw {
 
-ColorAdjustments::ColorAdjustments(IconImage& image)
-    : image_(image), width_(image.info.Width()), height_(image.info.Height()) {
+ColorAdjustments::ColorAdjustments(IconImage& image, IAdjustmentsObserver* observer)
+    : image_(image), observer_(observer), width_(image.info.Width()), height_(image.info.Height()) {
     const auto cells = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
     backupColors_.resize(cells);
     backupAlphas_.resize(cells);
@@ -68,22 +68,27 @@ void ColorAdjustments::UpdateAdjustments() {
     if (sliders_.saturation != kNeutral) DoSat(image_, sliders_.saturation, channel_);
     if (sliders_.gamma != kNeutral) DoGamma(image_, sliders_.gamma, channel_);
     if (sliders_.brightness != kNeutral) DoBrightness(image_, sliders_.brightness, channel_);
-    if (onImageChanged) onImageChanged();
+    if (observer_) observer_->ImageChanged();
 }
 
 void ColorAdjustments::Ok() {
+    if (!open_) return;
     // The image stays as adjusted; the backup is no longer needed.
     open_ = false;
     backupColors_ = {};
     backupAlphas_ = {};
     backupPng_ = {};
+    if (observer_) observer_->Closed(true);
 }
 
 void ColorAdjustments::Cancel() {
     if (!open_) return;
     RestoreBackup();
     open_ = false;
-    if (onImageChanged) onImageChanged();
+    if (observer_) {
+        observer_->ImageChanged();
+        observer_->Closed(false);
+    }
 }
 
 }  // namespace iw

@@ -1,9 +1,9 @@
 #pragma once
 // The logic of the adjustments window (frmBrightness): four sliders and a channel choice
 // that recompute the current image from its state when the window opened, OK to keep the
-// result and Cancel to put the image back.
+// result and Cancel to put the image back. The window drives it through the commands, reads
+// Sliders() and Channel(), and follows it through an IAdjustmentsObserver.
 
-#include <functional>
 #include <vector>
 
 #include "document/model/IconImage.h"
@@ -19,12 +19,21 @@ struct AdjustmentSliders {
     int saturation = kNeutral;  // sldSat
 };
 
+class IAdjustmentsObserver {
+  public:
+    virtual ~IAdjustmentsObserver() = default;
+    // The image was recomputed or put back: the previews redraw.
+    virtual void ImageChanged() {}
+    // OK (`kept`) or Cancel closed the window.
+    virtual void Closed(bool /*kept*/) {}
+};
+
 class ColorAdjustments {
   public:
-    // Takes the backup of both planes of `image`, the image being edited; the image must
-    // outlive this object. The adjustments work on the image directly, so the editor's
-    // view of it is the preview.
-    explicit ColorAdjustments(IconImage& image);
+    // Takes the backup of both planes of `image`, the image being edited; the image (and
+    // the observer, if any) must outlive this object. The adjustments work on the image
+    // directly, so the editor's view of it is the preview.
+    explicit ColorAdjustments(IconImage& image, IAdjustmentsObserver* observer = nullptr);
     ColorAdjustments(const ColorAdjustments&) = delete;
     ColorAdjustments& operator=(const ColorAdjustments&) = delete;
 
@@ -39,7 +48,7 @@ class ColorAdjustments {
     AdjustChannel Channel() const { return channel_; }
 
     // Restores the image from the backup, then runs DoContrast, DoSat, DoGamma and
-    // DoBrightness for each slider away from 50, and asks for a redraw.
+    // DoBrightness for each slider away from 50; the observer hears ImageChanged.
     void UpdateAdjustments();
 
     // cmdOK: the image keeps its adjusted state and the window closes.
@@ -49,13 +58,11 @@ class ColorAdjustments {
     void Cancel();
     bool IsOpen() const { return open_; }
 
-    // Called after every recomputation and after Cancel so the main window can redraw.
-    std::function<void()> onImageChanged;
-
   private:
     void RestoreBackup();
 
     IconImage& image_;
+    IAdjustmentsObserver* observer_;
     int width_;
     int height_;
     std::vector<std::int32_t> backupColors_;  // width x height, row-major

@@ -91,15 +91,9 @@ TEST(BrushStamp, DropsPointsOutsideTheImageAndPaintsTheRest) {
     StampBrush(image, "SCircle", -1, 8, 7, 255);
     EXPECT_EQ(Painted(image, 7), (Cells{{0, 8}}));
     StampBrush(image, "LSquare", 15, 15, 6, 255);  // no wrapping into the next row
-    EXPECT_EQ(Painted(image, 6), (Cells{{13, 13},
-                                        {13, 14},
-                                        {13, 15},
-                                        {14, 13},
-                                        {14, 14},
-                                        {14, 15},
-                                        {15, 13},
-                                        {15, 14},
-                                        {15, 15}}));
+    EXPECT_EQ(Painted(image, 6).size(), 9u);
+    for (const auto& [x, y] : Painted(image, 6))
+        EXPECT_TRUE(x >= 13 && x <= 15 && y >= 13 && y <= 15) << x << "," << y;
 }
 
 TEST(BrushStroke, LeavesNoGapsBetweenDistantPoints) {

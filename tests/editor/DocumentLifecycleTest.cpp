@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
-#include "editor/RecentFiles.h"
 
 namespace iw {
 namespace {
@@ -31,24 +30,23 @@ struct Lifecycle : ::testing::Test {
     }
     // Draws one pixel as the canvas would: a pencil press and release.
     void Draw(Point at) {
-        editor.State().CurrentTool = "Pencil";
-        editor.PointerPress(at, MouseButton::Left);
-        editor.PointerRelease(at);
+        editor.Tools().SelectTool(ToolId::Pencil);
+        f.Stroke({at});
     }
 };
 
 TEST_F(Lifecycle, StartupMakesAnUntitledBlankSetAndWritesExitOK) {
     EXPECT_TRUE(Start().showStartupDialog);
-    EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
+    EXPECT_EQ(editor.Document().Caption(), "untitled - Quorvale Iconwright");
     ASSERT_EQ(editor.Set().Count(), 1);
     EXPECT_EQ(editor.Set().Info(0).Width(), 32);
     EXPECT_EQ(editor.Set().Info(0).bitCount, 32);
-    EXPECT_EQ(editor.SettingsStore().GetValue("Settings\\ExitOK", ""), "False");
+    EXPECT_EQ(editor.Settings().Store().GetValue("Settings\\ExitOK", ""), "False");
     EXPECT_EQ(f.view.splashes, 1);
     EXPECT_TRUE(f.view.restored->Maximised());
-    EXPECT_TRUE(editor.Unmodified());
-    EXPECT_FALSE(editor.HasFileName());
-    EXPECT_EQ(editor.Language(), "English");
+    EXPECT_TRUE(editor.Document().Unmodified());
+    EXPECT_FALSE(editor.Document().HasFileName());
+    EXPECT_EQ(editor.Settings().Language(), "English");
 }
 
 TEST_F(Lifecycle, StartupReadsItsSettingsFromTheDataFolder) {
@@ -75,11 +73,11 @@ TEST_F(Lifecycle, StartupOpensTheMostRecentFileOnlyWhenItExists) {
     const std::string path = f.PathFor("recent.ico");
     SaveSettings({{"Startup", "1"}, {"RecentFile1", path}});
     Start();
-    EXPECT_FALSE(editor.HasFileName());
+    EXPECT_FALSE(editor.Document().HasFileName());
     f.documents.Put(path, test::SolidSet(16, 32, PackColor(1, 2, 3)));
     Start();
-    EXPECT_EQ(editor.FileName(), path);
-    EXPECT_EQ(f.view.caption, "recent.ico - Quorvale Iconwright");
+    EXPECT_EQ(editor.Document().FileName(), path);
+    EXPECT_EQ(editor.Document().Caption(), "recent.ico - Quorvale Iconwright");
 }
 
 TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
@@ -88,15 +86,18 @@ TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
     const StartupResult result = Start("  \"" + path + "\" /log ");
     EXPECT_TRUE(f.view.logShown);
     EXPECT_FALSE(result.showStartupDialog);
-    EXPECT_EQ(editor.FileName(), path);
-    EXPECT_EQ(RecentFile(editor.SettingsStore(), 1), path);
+    for (const char* event : {"caption", "mode", "set", "current", "view", "undo", "inspector"})
+        EXPECT_GT(f.observer.events[event], 0) << event;
+    EXPECT_EQ(f.observer.events["recent"], 1);
+    EXPECT_EQ(editor.Document().FileName(), path);
+    EXPECT_EQ(editor.Settings().RecentFiles()[0], path);
 
     f.presenter.shown.clear();
     EXPECT_FALSE(editor.HandleCommandLine("/nowhere/x.ico"));
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_EQ(f.presenter.shown[0].text,
               "This file cannot be found or the command is invalid.\n/nowhere/x.ico");
-    EXPECT_EQ(editor.FileName(), path);  // the window keeps what it had
+    EXPECT_EQ(editor.Document().FileName(), path);  // the window keeps what it had
 
     // A request file from another program.
     const std::string icon = f.PathFor("for-app.ico");
@@ -108,16 +109,16 @@ TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
     ASSERT_TRUE(request.Save());
     EXPECT_TRUE(editor.HandleCommandLine((f.temp / "request.XML").string()));
     EXPECT_EQ(f.view.editRequestText, "You are editing an icon for Some Program");
-    EXPECT_EQ(editor.FileName(), icon);
+    EXPECT_EQ(editor.Document().FileName(), icon);
 }
 
 TEST_F(Lifecycle, AskToSaveAsksOnlyAfterChangesAndNamesTheFileOrUntitled) {
     Start();
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
+    EXPECT_EQ(editor.Document().AskToSave(), MessageAnswer::No);
     EXPECT_TRUE(f.presenter.shown.empty());
     Draw({1, 1});
     f.presenter.answer = MessageAnswer::No;
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::No);
+    EXPECT_EQ(editor.Document().AskToSave(), MessageAnswer::No);
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_EQ(LastMessage(), "SaveUntitled: Save changes to untitled?");
     EXPECT_EQ(f.presenter.shown[0].buttons, MessageButtons::YesNoCancel);
@@ -125,9 +126,9 @@ TEST_F(Lifecycle, AskToSaveAsksOnlyAfterChangesAndNamesTheFileOrUntitled) {
 
     const std::string path = f.PathFor("named.ico");
     f.view.savePath = path;
-    ASSERT_TRUE(editor.Save());
+    ASSERT_TRUE(editor.Document().Save());
     Draw({2, 2});
-    editor.AskToSave();
+    editor.Document().AskToSave();
     EXPECT_EQ(LastMessage(), "SaveFilename: Save changes to " + path + "?");
 }
 
@@ -135,14 +136,14 @@ TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
     Start();
     Draw({1, 1});
     f.presenter.answer = MessageAnswer::Cancel;
-    EXPECT_FALSE(editor.NewDocument());
-    EXPECT_EQ(editor.CurrentImage().Color(1, 1), editor.State().ForeColor);
+    EXPECT_FALSE(editor.Document().NewDocument());
+    EXPECT_EQ(editor.CurrentImage().Color(1, 1), editor.Tools().State().ForeColor);
     EXPECT_FALSE(editor.QueryClose());
 
     f.presenter.answer = MessageAnswer::No;
-    EXPECT_TRUE(editor.NewDocument());
+    EXPECT_TRUE(editor.Document().NewDocument());
     EXPECT_EQ(editor.CurrentImage().Color(1, 1), TransparentColor);
-    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_TRUE(editor.Document().Unmodified());
     EXPECT_TRUE(f.documents.writes.empty());
 }
 
@@ -150,18 +151,19 @@ TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {
     Start();
     Draw({1, 1});
     f.presenter.answer = MessageAnswer::Yes;
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);  // the Save As dialog is cancelled
+    EXPECT_EQ(editor.Document().AskToSave(),
+              MessageAnswer::Cancel);  // the Save As dialog is cancelled
     EXPECT_EQ(f.view.savePathRequests, 1);
 
     f.view.savePath = f.PathFor("saved.ico");
     f.documents.failWrites = true;
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Cancel);
-    EXPECT_FALSE(editor.Unmodified());
+    EXPECT_EQ(editor.Document().AskToSave(), MessageAnswer::Cancel);
+    EXPECT_FALSE(editor.Document().Unmodified());
 
     f.documents.failWrites = false;
-    EXPECT_EQ(editor.AskToSave(), MessageAnswer::Yes);
-    EXPECT_TRUE(editor.Unmodified());
-    EXPECT_TRUE(editor.HasFileName());
+    EXPECT_EQ(editor.Document().AskToSave(), MessageAnswer::Yes);
+    EXPECT_TRUE(editor.Document().Unmodified());
+    EXPECT_TRUE(editor.Document().HasFileName());
     EXPECT_EQ(f.documents.files.count(f.PathFor("saved.ico")), 1u);
 }
 
@@ -170,51 +172,53 @@ TEST_F(Lifecycle, SaveAsAsksBeforeOverwritingAndOnlyYesGoesOn) {
     const std::string path = f.PathFor("exists.ico");
     f.documents.Put(path, test::SolidSet(16, 32, 0));
     f.presenter.answer = MessageAnswer::No;
-    EXPECT_FALSE(editor.SaveAs(path));
+    EXPECT_FALSE(editor.Document().SaveAs(path));
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_EQ(LastMessage(),
               "OverwriteFile: The file " + path + " already exists.  OK to overwrite?");
     EXPECT_TRUE(f.documents.writes.empty());
     f.presenter.answer = MessageAnswer::Yes;
-    EXPECT_TRUE(editor.SaveAs(path));
+    EXPECT_TRUE(editor.Document().SaveAs(path));
     EXPECT_EQ(f.documents.writes.size(), 1u);
-    EXPECT_EQ(editor.FileName(), path);
+    EXPECT_EQ(editor.Document().FileName(), path);
 }
 
 TEST_F(Lifecycle, UndoBackToTheSavedStateClearsTheModifiedFlag) {
     Start();
     f.view.savePath = f.PathFor("flag.ico");
     Draw({1, 1});
-    ASSERT_TRUE(editor.Save());
+    ASSERT_TRUE(editor.Document().Save());
     Draw({2, 2});
-    EXPECT_FALSE(editor.Unmodified());
+    EXPECT_FALSE(editor.Document().Unmodified());
     editor.Undo();
-    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_TRUE(editor.Document().Unmodified());
     editor.Undo();
-    EXPECT_FALSE(editor.Unmodified());
+    EXPECT_FALSE(editor.Document().Unmodified());
     editor.Repeat();
-    EXPECT_TRUE(editor.Unmodified());
-    editor.MarkModified();
-    EXPECT_FALSE(editor.Unmodified());
+    EXPECT_TRUE(editor.Document().Unmodified());
+    editor.Document().MarkModified();
+    EXPECT_FALSE(editor.Document().Unmodified());
 }
 
 TEST_F(Lifecycle, OpeningAMissingOrUnreadableFileKeepsTheSet) {
     Start();
-    EXPECT_FALSE(editor.OpenDocument(f.PathFor("absent.ico")));
+    EXPECT_FALSE(editor.Document().OpenDocument(f.PathFor("absent.ico")));
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_EQ(f.presenter.shown[0].text, "This file could not be found.");
 
     const std::string junk = f.PathFor("junk.ico");
     std::ofstream(junk) << "not an icon";
-    EXPECT_FALSE(editor.OpenDocument(junk));  // the fake store knows nothing of it
+    EXPECT_FALSE(editor.Document().OpenDocument(junk));  // the fake store knows nothing of it
     EXPECT_EQ(editor.Set().Count(), 1);
-    EXPECT_FALSE(editor.HasFileName());
-    EXPECT_EQ(f.view.caption, "untitled - Quorvale Iconwright");
+    EXPECT_FALSE(editor.Document().HasFileName());
+    EXPECT_EQ(editor.Document().Caption(), "untitled - Quorvale Iconwright");
 }
 
 TEST_F(Lifecycle, OpeningAFileOrSwitchingImagesResetsUndo) {
     Start();
-    editor.Set().AddIcon(15, 15, 32);
+    IconSet two = test::SolidSet(32, 32, 0);
+    two.AddIcon(15, 15, 32);
+    ASSERT_TRUE(f.Open(two));
     Draw({1, 1});
     EXPECT_TRUE(editor.UndoEnabled());
     editor.SelectImage(1);
@@ -224,40 +228,52 @@ TEST_F(Lifecycle, OpeningAFileOrSwitchingImagesResetsUndo) {
     const std::string cursor = f.PathFor("arrow.cur");
     f.documents.Put(cursor, test::SolidSet(32, 32, 0));
     f.presenter.answer = MessageAnswer::No;
-    ASSERT_TRUE(editor.OpenDocument(cursor));
-    EXPECT_EQ(editor.Set().mode, FileMode::CUR);
-    EXPECT_EQ(editor.ModeMenuCaption(), "&Cursor");
+    ASSERT_TRUE(editor.Document().OpenDocument(cursor));
+    EXPECT_EQ(editor.Document().Mode(), FileMode::CUR);
+    EXPECT_EQ(editor.Document().ModeMenuCaption(), "&Cursor");
     EXPECT_FALSE(editor.UndoEnabled());
     EXPECT_FALSE(editor.RepeatEnabled());
 }
 
 TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     Start();
-    ASSERT_TRUE(editor.NewCursor());
-    EXPECT_EQ(editor.Set().mode, FileMode::CUR);
+    ASSERT_TRUE(editor.Document().NewCursor());
+    EXPECT_EQ(editor.Document().Mode(), FileMode::CUR);
     EXPECT_EQ(f.presenter.shown.back().key, "CreateCursor");
     EXPECT_EQ(f.presenter.shown.back().title, "Quorvale Iconwright");
-    ASSERT_TRUE(editor.NewAnimatedCursor());
-    EXPECT_EQ(editor.Set().mode, FileMode::ANI);
+    EXPECT_TRUE(editor.Document().Unmodified());
+    editor.Document().SwitchCURMode();  // already a cursor
+    EXPECT_TRUE(editor.Document().Unmodified());
+    editor.Document().SwitchICOMode();
+    EXPECT_FALSE(editor.Document().Unmodified());
+    EXPECT_EQ(editor.Document().ModeMenuCaption(), "&Icon");
+    f.presenter.answer = MessageAnswer::No;
+    ASSERT_TRUE(editor.Document().NewAnimatedCursor());
+    EXPECT_EQ(f.presenter.shown.end()[-2].key, "SaveUntitled");
+    EXPECT_EQ(editor.Document().Mode(), FileMode::ANI);
     EXPECT_EQ(f.presenter.shown.back().key, "CreateANI");
     EXPECT_EQ(editor.Set().Count(), 1);
 
-    const IconTemplate* classic = editor.Templates().Find("Windows Classic");
+    const IconTemplate* classic = editor.Settings().Templates().Find("Windows Classic");
     ASSERT_NE(classic, nullptr);
-    ASSERT_TRUE(editor.NewFromTemplate(*classic));
+    ASSERT_TRUE(editor.Document().NewFromTemplate(*classic));
     ASSERT_EQ(editor.Set().Count(), 9);
-    EXPECT_EQ(editor.Set().mode, FileMode::ICO);
+    EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
     EXPECT_EQ(editor.Set().Info(0).Width(), 48);
-    EXPECT_EQ(editor.InspectorView().state, InspectorState::AllBlank);
+    EXPECT_EQ(editor.Inspector().Panel().state, InspectorState::AllBlank);
 }
 
 TEST_F(Lifecycle, ShutdownWritesTheStores) {
     Start();
-    editor.State().PixelSize = 7;
+    editor.View().NormalZoom();
+    for (int i = 1; i < 7; ++i)
+        editor.View().ZoomIn();
+    editor.Settings().SetStartupAction(2);
     editor.Shutdown();
     XmlStore written;
     written.Load(f.folders.dataFolder / "settings.xml");
     EXPECT_EQ(written.GetValue("Settings\\Pixelsize", ""), "7");
+    EXPECT_EQ(written.GetValue("Settings\\Startup", ""), "2");
     EXPECT_EQ(written.GetValue("Settings\\ExitOK", ""), "True");
     EXPECT_TRUE(std::filesystem::exists(f.folders.dataFolder / "messages.xml"));
 }

@@ -59,7 +59,6 @@ class FakeDocumentStore : public IDocumentStore {
 
 class FakeView : public IMainWindowView {
   public:
-    void SetCaption(const std::string& text) override { caption = text; }
     void ApplyUseFont(bool use) override { useFont = use; }
     void ShowSplash() override { ++splashes; }
     void RestoreWindow(const WindowSettings& window) override { restored = window; }
@@ -69,7 +68,6 @@ class FakeView : public IMainWindowView {
         ++savePathRequests;
         return savePath;
     }
-    std::string caption;
     std::optional<bool> useFont;
     int splashes = 0;
     std::optional<WindowSettings> restored;
@@ -95,6 +93,22 @@ class ScriptedRandom : public IRandomSource {
     std::size_t next_ = 0;
 };
 
+// Counts the editor's events by name.
+class RecordingObserver : public IEditorObserver {
+  public:
+    void CaptionChanged() override { ++events["caption"]; }
+    void ModeChanged() override { ++events["mode"]; }
+    void SetChanged() override { ++events["set"]; }
+    void CurrentImageChanged() override { ++events["current"]; }
+    void ImageChanged() override { ++events["image"]; }
+    void ColorsChanged() override { ++events["colors"]; }
+    void ViewChanged() override { ++events["view"]; }
+    void UndoStateChanged() override { ++events["undo"]; }
+    void InspectorChanged() override { ++events["inspector"]; }
+    void RecentFilesChanged() override { ++events["recent"]; }
+    std::map<std::string, int> events;
+};
+
 // An Editor over fakes (and over `Store` for its files), with XDG_DATA_HOME pointed at a
 // temporary folder so that no test touches the real home folder.
 template <typename Store>
@@ -105,8 +119,22 @@ struct BasicEditorFixture {
         folders.programTemplates = TestDataPath("../../data/Templates");
         folders.userTemplates = temp / "data" / "Templates";
         std::filesystem::create_directories(folders.userTemplates);
+        editor.AddObserver(observer);
     }
     std::string PathFor(const std::string& name) const { return (temp / name).string(); }
+    // Opens `set` as the file `name` would be opened.
+    bool Open(const IconSet& set, const std::string& name = "open.ico") {
+        documents.Put(PathFor(name), set);
+        return editor.Document().OpenDocument(PathFor(name));
+    }
+    // A press, moves through `path` and the release there, with the current tool.
+    void Stroke(std::vector<Point> path, MouseButton button = MouseButton::Left) {
+        CanvasController& canvas = editor.Canvas();
+        canvas.PointerPress(path.front(), button);
+        for (std::size_t i = 1; i < path.size(); ++i)
+            canvas.PointerMove(path[i]);
+        canvas.PointerRelease(path.back());
+    }
 
     TempDir temp;
     StartupFolders folders;
@@ -117,6 +145,7 @@ struct BasicEditorFixture {
     FakeView view;
     ScriptedRandom random{{0.5}};
     Editor editor{EditorServices{presenter, progress, log, documents, view, random}};
+    RecordingObserver observer;
 };
 
 using EditorFixture = BasicEditorFixture<FakeDocumentStore>;

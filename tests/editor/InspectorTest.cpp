@@ -132,50 +132,50 @@ TEST(InspectorPanel, CursorsAndLargeSetsAreNotExaminedAndKeepThePanel) {
 struct InspectorFixes : ::testing::Test {
     test::EditorFixture f;
     Editor& editor = f.editor;
-    IconSet& set = editor.Set();
-    // Puts `sides` into the editor and runs the check.
-    InspectorState Check(std::initializer_list<int> sides) {
-        set = Set(sides);
-        editor.RunInspector();
-        return editor.InspectorView().state;
+    InspectorController& inspector = editor.Inspector();
+    const IconSet& set = editor.Set();
+    // Opens `opened` in the editor and checks it against `required`.
+    InspectorState Check(const IconSet& opened,
+                         std::vector<TemplateEntry> required = kRules.required) {
+        f.Open(opened);
+        inspector.SetRequiredFormats(std::move(required));
+        return inspector.Panel().state;
     }
-    void SetUp() override { editor.SetRequiredFormats(kRules.required); }
 };
 
 TEST_F(InspectorFixes, AddIconsInsertsBlankFormatsInOrderThenCopyImageFillsThem) {
-    editor.SetRequiredFormats({Entry(48, 32), Entry(32, 32), Entry(16, 32)});
-    set = test::SolidSet(32, 32, PackColor(200, 0, 0));
-    editor.RunInspector();
-    ASSERT_EQ(editor.InspectorView().state, MissingFormats);
-    EXPECT_TRUE(editor.FixInspectorProblem());
+    ASSERT_EQ(Check(test::SolidSet(32, 32, PackColor(200, 0, 0)),
+                    {Entry(48, 32), Entry(32, 32), Entry(16, 32)}),
+              MissingFormats);
+    EXPECT_TRUE(inspector.Fix());
     ASSERT_EQ(set.Count(), 3);
     EXPECT_EQ(set.Info(0).Width(), 48);
     EXPECT_EQ(set.Info(2).Width(), 16);
-    EXPECT_EQ(editor.InspectorView().state, SomeBlank);
-    EXPECT_FALSE(editor.Unmodified());
+    EXPECT_EQ(inspector.Panel().state, SomeBlank);
+    EXPECT_FALSE(editor.Document().Unmodified());
 
-    EXPECT_TRUE(editor.FixInspectorProblem());
-    EXPECT_EQ(editor.InspectorView().state, Correct);
+    EXPECT_TRUE(inspector.Fix());
+    EXPECT_EQ(inspector.Panel().state, Correct);
     EXPECT_EQ(set.Image(0).Color(47, 47), PackColor(200, 0, 0));
     EXPECT_EQ(set.Image(0).Alpha(47, 47), 255);
     EXPECT_EQ(set.Image(2).Color(0, 0), PackColor(200, 0, 0));
 }
 
 TEST_F(InspectorFixes, SortKeepsTheCurrentImageCurrent) {
-    ASSERT_EQ(Check({16, 32}), NotSorted);
+    ASSERT_EQ(Check(Set({16, 32})), NotSorted);
     editor.SelectImage(0);
-    EXPECT_TRUE(editor.FixInspectorProblem());
-    EXPECT_EQ(editor.State().CurrentIcon, 1);
+    EXPECT_TRUE(inspector.Fix());
+    EXPECT_EQ(editor.CurrentIcon(), 1);
     EXPECT_EQ(editor.CurrentImage().info.Width(), 16);
-    EXPECT_EQ(editor.InspectorView().state, Correct);
+    EXPECT_EQ(inspector.Panel().state, Correct);
 }
 
 TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
-    ASSERT_EQ(Check({32, 24, 16}), UnneededFormats);
+    ASSERT_EQ(Check(Set({32, 24, 16})), UnneededFormats);
     f.presenter.answer = MessageAnswer::No;
-    EXPECT_FALSE(editor.FixInspectorProblem());
+    EXPECT_FALSE(inspector.Fix());
     EXPECT_EQ(set.Count(), 3);
-    EXPECT_EQ(editor.InspectorView().state, UnneededFormats);
+    EXPECT_EQ(inspector.Panel().state, UnneededFormats);
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_EQ(f.presenter.shown[0].key, "ExtraFormats");
     EXPECT_EQ(f.presenter.shown[0].text,
@@ -185,16 +185,16 @@ TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
     EXPECT_EQ(f.presenter.shown[0].buttons, MessageButtons::YesNo);
 
     f.presenter.answer = MessageAnswer::Yes;
-    EXPECT_TRUE(editor.FixInspectorProblem());
+    EXPECT_TRUE(inspector.Fix());
     EXPECT_EQ(set.Count(), 2);
-    EXPECT_EQ(editor.InspectorView().state, Correct);
+    EXPECT_EQ(inspector.Panel().state, Correct);
 }
 
 TEST_F(InspectorFixes, ShowPointsAtTheDuplicates) {
-    ASSERT_EQ(Check({32, 32, 16}), DuplicateFormats);
-    EXPECT_FALSE(editor.FixInspectorProblem());
-    EXPECT_EQ(editor.HighlightedImages(), (std::vector<int>{0, 1}));
-    EXPECT_EQ(editor.State().CurrentIcon, 1);
+    ASSERT_EQ(Check(Set({32, 32, 16})), DuplicateFormats);
+    EXPECT_FALSE(inspector.Fix());
+    EXPECT_EQ(inspector.HighlightedImages(), (std::vector<int>{0, 1}));
+    EXPECT_EQ(editor.CurrentIcon(), 1);
 }
 
 }  // namespace

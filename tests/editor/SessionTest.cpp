@@ -5,9 +5,6 @@
 
 #include "EditorFakes.h"
 #include "document/io/IconFileWriter.h"
-#include "editor/PixelStatus.h"
-#include "editor/RecentFiles.h"
-#include "editor/ToolTable.h"
 
 namespace iw {
 namespace {
@@ -21,38 +18,33 @@ IconSet OriginalSet() {
 template <typename Fixture>
 void DriveSession(Fixture& f, const std::string& path) {
     Editor& editor = f.editor;
+    ToolControls& tools = editor.Tools();
 
     editor.RunStartup(path, f.folders);
-    ASSERT_EQ(editor.FileName(), path);
-    editor.SetViewport({800, 600});
-    EXPECT_EQ(editor.State().PixelSize, 17);  // fit in window by default
-    EXPECT_EQ(editor.CanvasSize().width, 32 * 17);
+    ASSERT_EQ(editor.Document().FileName(), path);
+    editor.View().SetViewport({800, 600});
+    EXPECT_EQ(editor.View().State().PixelSize, 17);  // fit in window by default
+    EXPECT_EQ(editor.View().CanvasSize().width, 32 * 17);
 
-    // A red rectangle outline, dragged from (2, 2) to (10, 8).
-    SelectTool(editor.State(), "Rectangle");
-    editor.State().ForeColor = PackColor(255, 0, 0);
-    editor.PointerPress(CanvasToImage(2 * 17 + 5, 2 * 17 + 5, 17), MouseButton::Left);
-    editor.PointerMove({20, 20});  // the rubber band goes through a larger shape first
-    editor.PointerMove({10, 8});
-    editor.PointerRelease({10, 8});
+    // A red rectangle outline, dragged from (2, 2) through a larger shape to (10, 8).
+    ASSERT_TRUE(tools.SelectTool("Rectangle"));
+    tools.SetForeColor(PackColor(255, 0, 0));
+    f.Stroke({editor.View().CanvasToImage(2 * 17 + 5, 2 * 17 + 5), {20, 20}, {10, 8}});
     EXPECT_EQ(editor.CurrentImage().Color(20, 20), PackColor(255, 255, 255));
     EXPECT_EQ(editor.CurrentImage().Color(10, 8), PackColor(255, 0, 0));
-    EXPECT_EQ(editor.StatusTextAt({2, 2}), "R 255, G 0, B 0, A 255");
+    EXPECT_EQ(editor.Canvas().StatusTextAt({2, 2}), "R 255, G 0, B 0, A 255");
 
     // Fill the inside with the background colour using the right button.
-    SelectTool(editor.State(), "Fill");
-    editor.State().BackColor = PackColor(0, 0, 255);
-    editor.PointerPress({5, 5}, MouseButton::Right);
-    editor.PointerRelease({5, 5});
+    tools.SelectTool(ToolId::Fill);
+    tools.SetBackColor(PackColor(0, 0, 255));
+    f.Stroke({{5, 5}}, MouseButton::Right);
     EXPECT_EQ(editor.CurrentImage().Color(9, 7), PackColor(0, 0, 255));
     EXPECT_EQ(editor.CurrentImage().Color(11, 7), PackColor(255, 255, 255));
 
     // A pencil stroke that goes wrong, undone, repeated, undone again.
-    SelectTool(editor.State(), "Pencil");
-    SetBrushShape(editor.State(), "MSquare");
-    editor.PointerPress({20, 20}, MouseButton::Left);
-    editor.PointerMove({25, 20});
-    editor.PointerRelease({25, 20});
+    tools.SelectTool(ToolId::Pencil);
+    tools.SetBrushShape("MSquare");
+    f.Stroke({{20, 20}, {25, 20}});
     EXPECT_EQ(editor.CurrentImage().Color(23, 21), PackColor(255, 0, 0));
     EXPECT_TRUE(editor.Undo());
     EXPECT_EQ(editor.CurrentImage().Color(23, 21), PackColor(255, 255, 255));
@@ -62,19 +54,18 @@ void DriveSession(Fixture& f, const std::string& path) {
     EXPECT_TRUE(editor.Undo());
 
     // Pick the fill colour back into the foreground.
-    SelectTool(editor.State(), "Pick Color");
-    editor.PointerPress({5, 5}, MouseButton::Left);
-    editor.PointerRelease({5, 5});
-    EXPECT_EQ(editor.State().ForeColor, PackColor(0, 0, 255));
+    tools.SelectTool(ToolId::PickColor);
+    f.Stroke({{5, 5}});
+    EXPECT_EQ(tools.State().ForeColor, PackColor(0, 0, 255));
 
-    EXPECT_FALSE(editor.Unmodified());
-    ASSERT_TRUE(editor.Save());
-    EXPECT_TRUE(editor.Unmodified());
+    EXPECT_FALSE(editor.Document().Unmodified());
+    ASSERT_TRUE(editor.Document().Save());
+    EXPECT_TRUE(editor.Document().Unmodified());
     EXPECT_TRUE(f.presenter.shown.empty());
 
     IconImage expected = editor.CurrentImage().Clone();
-    ASSERT_TRUE(editor.NewDocument());
-    ASSERT_TRUE(editor.OpenDocument(path));
+    ASSERT_TRUE(editor.Document().NewDocument());
+    ASSERT_TRUE(editor.Document().OpenDocument(path));
     ASSERT_EQ(editor.Set().Count(), 2);
     const IconImage& reopened = editor.Set().Image(0);
     for (int x = 0; x < 32; ++x) {
@@ -84,7 +75,7 @@ void DriveSession(Fixture& f, const std::string& path) {
         }
     }
     EXPECT_FALSE(editor.UndoEnabled());
-    EXPECT_EQ(RecentFile(editor.SettingsStore(), 1), path);
+    EXPECT_EQ(editor.Settings().RecentFiles()[0], path);
 }
 
 TEST(Session, OpenDrawUndoSaveReopen) {
@@ -97,12 +88,28 @@ TEST(Session, OpenDrawUndoSaveReopen) {
 TEST(Session, OpenDrawUndoSaveReopenOnRealFiles) {
     test::BasicEditorFixture<FileDocumentStore> f;
     const std::string path = f.PathFor("session.ico");
-    MessageService messages(f.editor.Messages().Store(), f.presenter);
-    CoreContext context{messages, f.progress, f.log};
+    test::MessageFixture messages;
+    CoreContext context{messages.service, f.progress, f.log};
     ASSERT_TRUE(WriteIconFile(path, OriginalSet(), context));
     DriveSession(f, path);
     // What is on disk is an icon file that the reader takes back whole.
     EXPECT_GT(std::filesystem::file_size(path), 6u + 2 * 16 + 2 * 40);
+}
+
+TEST(Session, AdjustmentsWorkOnTheEditedImageAfterAnUndoSnapshot) {
+    test::EditorFixture f;
+    ASSERT_TRUE(f.Open(test::SolidSet(8, 32, PackColor(10, 200, 250))));
+    f.observer.events.clear();
+    std::unique_ptr<ColorAdjustments> adjustments = f.editor.AdjustColors();
+    ASSERT_NE(adjustments, nullptr);
+    adjustments->SetBrightness(100);
+    EXPECT_EQ(f.editor.CurrentImage().Color(7, 7), PackColor(255, 255, 255));
+    adjustments->Ok();
+    EXPECT_EQ(f.observer.events["image"], 1);
+    EXPECT_EQ(f.observer.events["inspector"], 1);
+    EXPECT_FALSE(f.editor.Document().Unmodified());
+    ASSERT_TRUE(f.editor.Undo());
+    EXPECT_EQ(f.editor.CurrentImage().Color(7, 7), PackColor(10, 200, 250));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace iw {
 namespace {
 
 // Every value the two loaders read, in one line.
-std::string Describe(const EditorState& s, const WindowSettings& w) {
+std::string Describe(const ViewState& s, const WindowSettings& w) {
     std::ostringstream out;
     out << "grid " << s.ShowGrid << ", size " << s.PixelSize << ", fit " << s.FitInWindow
         << ", preview " << static_cast<int>(w.previewBackground) << ", inspector "
@@ -22,7 +22,7 @@ std::string Describe(const EditorState& s, const WindowSettings& w) {
 
 // Loads `store` over a state and window that hold anything but the defaults.
 std::string Load(const XmlStore& store) {
-    EditorState state;
+    ViewState state;
     state.ShowGrid = true;
     state.PixelSize = 5;
     state.FitInWindow = false;
@@ -70,7 +70,7 @@ TEST(Settings, PixelsizeThatIsNotNumericOrTooLargeReadsAs48) {
 
 TEST(Settings, SaveWritesEveryKeyAndLoadsBack) {
     XmlStore store;
-    EditorState state;
+    ViewState state;
     state.ShowGrid = true;
     state.PixelSize = 17;
     state.FitInWindow = false;

@@ -83,14 +83,14 @@ TEST(UndoHistory, CopiesOnlyTheImagesCorner) {
     image.Color(15, 15) = 1;
     image.Color(16, 0) = 99;  // a store cell outside the image
     history.AddUndo(image);
-    EXPECT_EQ(history.UndoLevel(0).Color(16, 0), 0);  // not copied into the snapshot
+    EXPECT_EQ(history.UndoPixels(0).Color(16, 0), 0);  // not copied into the snapshot
     image.Color(15, 15) = 2;
     image.Color(16, 0) = 100;
     ASSERT_TRUE(history.Undo(image));
     EXPECT_EQ(image.Color(15, 15), 1);
     EXPECT_EQ(image.Color(16, 0), 100);  // untouched by the undo
-    EXPECT_EQ(history.RedoLevel(0).Color(15, 15), 2);
-    EXPECT_EQ(history.RedoLevel(0).Color(16, 0), 0);
+    EXPECT_EQ(history.RedoPixels(0).Color(15, 15), 2);
+    EXPECT_EQ(history.RedoPixels(0).Color(16, 0), 0);
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
-// Zoom arithmetic, the status text for the pixel under the mouse and the channel boxes.
+// Zoom arithmetic, the status text for the pixel under the mouse, the channel boxes and the
+// tool options.
 #include <gtest/gtest.h>
 
+#include "EditorFakes.h"
 #include "editor/PixelStatus.h"
-#include "editor/ToolTable.h"
-#include "editor/Zoom.h"
+#include "editor/ToolControls.h"
+#include "editor/ViewController.h"
 
 namespace iw {
 namespace {
@@ -21,31 +23,40 @@ TEST(CapPixelSize, CapsLargeImagesTestingTheSideLessOneOnPurpose) {
     EXPECT_EQ(CapPixelSize(48, 64, 16), 12);
 }
 
-TEST(Zoom, FitInWindowTakesTheSmallerQuotientAndStepsTurnItOff) {
-    EditorState state;
-    state.FitInWindow = true;
-    LayoutCanvas(state, {800, 600}, 32, 32);  // (800-32)/32 = 24, (600-32)/32 = 17
-    EXPECT_EQ(state.PixelSize, 17);
-    LayoutCanvas(state, {4000, 4000}, 16, 16);  // 248, clamped to 48
-    EXPECT_EQ(state.PixelSize, 48);
-    LayoutCanvas(state, {20, 20}, 16, 16);  // negative room still gives 1
-    EXPECT_EQ(state.PixelSize, 1);
-    LayoutCanvas(state, {4000, 4000}, 256, 256);  // 15, then the cap
-    EXPECT_EQ(state.PixelSize, 3);
+TEST(ViewController, FitInWindowTakesTheSmallerQuotientAndStepsTurnItOff) {
+    EditorEvents events;
+    ViewController view(events);
+    view.ZoomIn();  // no image yet: nothing to zoom
+    EXPECT_EQ(view.State().PixelSize, 32);
+    view.ShowImage(32, 32);  // (800-32)/32 = 24, (600-32)/32 = 17
+    EXPECT_EQ(view.State().PixelSize, 17);
+    view.ShowImage(16, 16);
+    view.SetViewport({4000, 4000});  // 248, clamped to 48
+    EXPECT_EQ(view.State().PixelSize, 48);
+    view.SetViewport({20, 20});  // negative room still gives 1
+    EXPECT_EQ(view.State().PixelSize, 1);
+    view.SetViewport({4000, 4000});
+    view.ShowImage(256, 256);  // 15, then the cap
+    EXPECT_EQ(view.State().PixelSize, 3);
 
-    state.PixelSize = 1;
-    ZoomOut(state, {800, 600}, 32, 32);
-    EXPECT_EQ(state.PixelSize, 1);  // zoom out from 1 stays 1 after the clamp
-    EXPECT_FALSE(state.FitInWindow);
-    state.PixelSize = 23;
-    ZoomIn(state, {800, 600}, 32, 32);
-    EXPECT_EQ(state.PixelSize, 24);
-    ZoomIn(state, {800, 600}, 32, 32);
-    EXPECT_EQ(state.PixelSize, 24);  // 31 * 25 > 768
-    NormalZoom(state, {800, 600}, 8, 8);
-    EXPECT_EQ(state.PixelSize, 1);
+    view.SetViewport({800, 600});
+    view.ShowImage(32, 32);
+    view.NormalZoom();
+    view.ZoomOut();
+    EXPECT_EQ(view.State().PixelSize, 1);  // zoom out from 1 stays 1 after the clamp
+    EXPECT_FALSE(view.State().FitInWindow);
+    view.Restore({23, false, true});
+    view.ZoomIn();
+    EXPECT_EQ(view.State().PixelSize, 24);
+    view.ZoomIn();
+    EXPECT_EQ(view.State().PixelSize, 24);  // 31 * 25 > 768
+    EXPECT_EQ(view.CanvasSize().width, 32 * 24);
+    view.ToggleGrid();
+    EXPECT_FALSE(view.State().ShowGrid);
+    view.SetFitInWindow(true);
+    EXPECT_EQ(view.State().PixelSize, 17);
     // Positions left of or above the canvas round down to negative cells.
-    EXPECT_EQ(CanvasToImage(31, 47, 16), (Point{1, 2}));
+    EXPECT_EQ(view.CanvasToImage(35, 51), (Point{2, 3}));
     EXPECT_EQ(CanvasToImage(-1, -17, 16), (Point{-1, -2}));
 }
 
@@ -73,36 +84,49 @@ TEST(PixelStatus, NamesMarkersChannelsAndLowDepthColours) {
               "R 10, G 10, B 10 (Black)");
 }
 
-TEST(ChannelEntry, TakesNumbersFromZeroBelow256AndAlphaFallsBackTo255) {
+TEST(ToolControls, ChannelBoxesTakeNumbersFromZeroBelow256AndAlphaFallsBackTo255) {
     EXPECT_EQ(ParseChannelEntry(" 255 "), 255);
     EXPECT_EQ(ParseChannelEntry("255.9"), 255);
     EXPECT_EQ(ParseChannelEntry("12.5"), 12);
     for (const char* bad : {"256", "-1", "", "abc", "1e2", "12a", "0x10", "nan"})
         EXPECT_FALSE(ParseChannelEntry(bad).has_value()) << bad;
-    EditorState state;
-    state.ForeColor = PackColor(10, 20, 30);
-    EXPECT_FALSE(ApplyChannelEntry(state, Channel::Green, "200").has_value());
-    ApplyChannelEntry(state, Channel::Blue, "300");
-    EXPECT_EQ(state.ForeColor, PackColor(10, 200, 30));
-    state.CurrentAlpha = 40;
-    EXPECT_FALSE(ApplyChannelEntry(state, Channel::Alpha, "90").has_value());
-    EXPECT_EQ(state.CurrentAlpha, 90);
-    EXPECT_EQ(ApplyChannelEntry(state, Channel::Alpha, "x"), "255");
-    EXPECT_EQ(state.CurrentAlpha, 255);
-    state.ForeColor = TransparentColor;
-    ApplyChannelEntry(state, Channel::Red, "7");
-    EXPECT_EQ(state.ForeColor, PackColor(7, 0, 0));
+    EditorEvents events;
+    test::RecordingObserver observer;
+    events.Add(observer);
+    ToolControls tools(events);
+    tools.SetForeColor(PackColor(10, 20, 30));
+    EXPECT_FALSE(tools.ApplyChannelEntry(Channel::Green, "200").has_value());
+    tools.ApplyChannelEntry(Channel::Blue, "300");
+    EXPECT_EQ(tools.State().ForeColor, PackColor(10, 200, 30));
+    tools.SetAlpha(400);
+    EXPECT_EQ(tools.ChannelValue(Channel::Alpha), 255);
+    EXPECT_FALSE(tools.ApplyChannelEntry(Channel::Alpha, "90").has_value());
+    EXPECT_EQ(tools.State().CurrentAlpha, 90);
+    EXPECT_EQ(tools.ApplyChannelEntry(Channel::Alpha, "x"), "255");
+    EXPECT_EQ(tools.State().CurrentAlpha, 255);
+    tools.SetForeColor(TransparentColor);
+    tools.SwitchColors();
+    EXPECT_EQ(tools.State().BackColor, TransparentColor);
+    tools.SwitchColors();
+    tools.ApplyChannelEntry(Channel::Red, "7");
+    EXPECT_EQ(tools.State().ForeColor, PackColor(7, 0, 0));
+    EXPECT_EQ(observer.events["colors"], 9);
 }
 
-TEST(Tools, OptionsTakeOnlyOfferedTags) {
-    EditorState state;
-    EXPECT_EQ(SelectTool(state, "Ellipse"), OptionPanel::Shape);
-    EXPECT_EQ(SelectTool(state, "Nonsense"), OptionPanel::Nothing);
-    EXPECT_FALSE(SetSpraySize(state, "5"));
-    EXPECT_FALSE(SetLineWidth(state, "2x"));
-    EXPECT_TRUE(SetLineWidth(state, "4"));
-    EXPECT_EQ(state.LineWidth, 4);
-    EXPECT_FALSE(SetBrushShape(state, "XCircle"));
+TEST(ToolControls, OptionsTakeOnlyOfferedTags) {
+    EditorEvents events;
+    ToolControls tools(events);
+    EXPECT_TRUE(tools.SelectTool("Pick Color"));
+    EXPECT_FALSE(tools.SelectTool("Nonsense"));
+    EXPECT_EQ(tools.State().CurrentTool, ToolId::PickColor);
+    tools.SelectTool(ToolId::Ellipse);
+    EXPECT_EQ(tools.Panel(), OptionPanel::Shape);
+    EXPECT_FALSE(tools.SetSpraySize("5"));
+    EXPECT_FALSE(tools.SetLineWidth("2x"));
+    EXPECT_TRUE(tools.SetLineWidth("4"));
+    EXPECT_EQ(tools.State().LineWidth, 4);
+    EXPECT_FALSE(tools.SetBrushShape("XCircle"));
+    EXPECT_EQ(tools.State().BrushShape, "SSquare");
 }
 
 }  // namespace

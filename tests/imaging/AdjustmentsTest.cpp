@@ -138,18 +138,24 @@ IconImage Photo() {
     return image;
 }
 
+struct SeenEvents final : IAdjustmentsObserver {
+    void ImageChanged() override { ++redraws; }
+    void Closed(bool kept) override { closed.push_back(kept); }
+    int redraws = 0;
+    std::vector<bool> closed;
+};
+
 TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFromTheBackup) {
     IconImage image = Photo();
     const IconImage original = image.Clone();
-    ColorAdjustments window(image);
-    int redraws = 0;
-    window.onImageChanged = [&] { ++redraws; };
+    SeenEvents seen;
+    ColorAdjustments window(image, &seen);
     for (const AdjustChannel channel : kEveryChannel)
         window.SetChannel(channel);
     window.SetBrightness(50);
     EXPECT_TRUE(SamePlanes(image, original));
     EXPECT_EQ(image.originalPng, original.originalPng);
-    EXPECT_EQ(redraws, 6);
+    EXPECT_EQ(seen.redraws, 6);
 
     window.SetBrightness(60);
     window.SetBrightness(60);
@@ -170,8 +176,9 @@ TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFro
 TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
     IconImage image = Photo();
     const IconImage original = image.Clone();
+    SeenEvents seen;
     {
-        ColorAdjustments window(image);
+        ColorAdjustments window(image, &seen);
         window.SetChannel(Alpha);
         window.SetBrightness(20);
         window.SetChannel(All);
@@ -180,12 +187,14 @@ TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
         EXPECT_EQ(image.originalPng, original.originalPng);
         window.SetBrightness(90);  // closed: nothing happens
         EXPECT_TRUE(SamePlanes(image, original));
+        EXPECT_EQ(seen.redraws, 4);
     }
-    ColorAdjustments window(image);
+    ColorAdjustments window(image, &seen);
     window.SetContrast(80);
     const IconImage adjusted = image.Clone();
     window.Ok();
     window.Cancel();
+    EXPECT_EQ(seen.closed, (std::vector<bool>{false, true}));
     EXPECT_TRUE(SamePlanes(image, adjusted));
     EXPECT_FALSE(SamePlanes(image, original));
 }

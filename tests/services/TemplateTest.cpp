@@ -137,20 +137,29 @@ TEST(TemplateFolders, ProgramFolderPrefersTheBuildTreeThenTheInstalledDataFolder
     EXPECT_TRUE(std::filesystem::is_directory(root / "Quorvale" / "Iconwright" / "Templates"));
 }
 
-TEST(TemplateEditor, LockedTemplatesCannotBeEdited) {
+// A template editor saving into a temporary user folder, with what it told its observer.
+struct TemplateEditing : ::testing::Test, ITemplateEditorObserver {
+    void RowsChanged() override { ++rowEvents; }
+    void TemplateChanged() override { ++templateEvents; }
+    test::MessageFixture messages;
+    test::TempDir user;
+    TemplateEditor editor{messages.service, user.Path(), this};
+    int rowEvents = 0;
+    int templateEvents = 0;
+};
+
+TEST_F(TemplateEditing, LockedTemplatesCannotBeEdited) {
     IconTemplate locked;
     locked.name = "Shipped";
     locked.lock = "LOCKED";
-    test::MessageFixture messages;
-    TemplateEditor editor;
-    EXPECT_FALSE(editor.OpenTemplates(locked, messages.service));
+    EXPECT_FALSE(editor.OpenTemplates(locked));
     ASSERT_EQ(messages.presenter.shown.size(), 1u);
     EXPECT_EQ(messages.presenter.shown[0].text, "This template cannot be edited.");
     EXPECT_EQ(editor.Name(), "NEW");
+    EXPECT_EQ(rowEvents + templateEvents, 0);
 }
 
-TEST(TemplateEditor, RowsAddRemoveAndMoveWithTheSelection) {
-    TemplateEditor editor;
+TEST_F(TemplateEditing, RowsAddRemoveAndMoveWithTheSelection) {
     EXPECT_TRUE(editor.AddItem(48, 48, 32, false) && editor.AddItem(16, 16, 4, false) &&
                 editor.AddItem(256, 256, 32, true));
     EXPECT_FALSE(editor.AddItem(0, 16, 32, false));
@@ -175,22 +184,21 @@ TEST(TemplateEditor, RowsAddRemoveAndMoveWithTheSelection) {
     EXPECT_EQ(editor.UpdateLabel(), "");
     editor.SelectRow(7);
     EXPECT_EQ(editor.SelectedRow(), -1);
+    EXPECT_EQ(rowEvents, 10);  // every change but the refused ones
 }
 
-TEST(TemplateEditor, HoldsAtMost65Rows) {
-    TemplateEditor editor;
+TEST_F(TemplateEditing, HoldsAtMost65Rows) {
     for (int i = 0; i < 65; ++i)
         ASSERT_TRUE(editor.AddItem(16, 16, 32, false));
     EXPECT_FALSE(editor.AddItem(16, 16, 32, false));
 }
 
-TEST(TemplateEditor, ScrollsToTheSelectionAndTakesOnlyIntegers) {
+TEST_F(TemplateEditing, ScrollsToTheSelectionAndTakesOnlyIntegers) {
     EXPECT_TRUE(TemplateEditor::IsInteger("48"));
     EXPECT_TRUE(TemplateEditor::IsInteger("-3"));
     EXPECT_FALSE(TemplateEditor::IsInteger("4.5"));
     EXPECT_FALSE(TemplateEditor::IsInteger(""));
     EXPECT_FALSE(TemplateEditor::IsInteger("-"));
-    TemplateEditor editor;
     for (int i = 0; i < 10; ++i)
         editor.AddItem(16, 16, 32, false);
     editor.SelectRow(9);
@@ -201,26 +209,24 @@ TEST(TemplateEditor, ScrollsToTheSelectionAndTakesOnlyIntegers) {
     EXPECT_EQ(editor.UpdateScrollBar(50, 4), 6);
 }
 
-TEST(TemplateEditor, SavesUnderTheGivenNameAndLoadsBack) {
-    test::TempDir user;
-    TemplateEditor editor;
+TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
     editor.NewTemplate();
     EXPECT_EQ(editor.Name(), "NEW");
     editor.AddItem(32, 32, 1, false);
     editor.AddItem(24, 16, 4, false);
     EXPECT_FALSE(editor.SaveTemplates());  // a new template has no file yet
-    EXPECT_FALSE(editor.SaveTemplatesAs("bad/name", user.Path()));
-    ASSERT_TRUE(editor.SaveTemplatesAs("Tiny", user.Path()));
+    EXPECT_FALSE(editor.SaveTemplatesAs("bad/name"));
+    ASSERT_TRUE(editor.SaveTemplatesAs("Tiny"));
     EXPECT_EQ(editor.Path(), (user / "Tiny.ini").string());
-    test::MessageFixture messages;
+    EXPECT_EQ(templateEvents, 2);  // the new template, then its name
     TemplateLibrary library;
     library.LoadAll(test::TestDataPath("../../data/Templates"), user.Path(), messages.service);
     const IconTemplate* tiny = library.Find("Tiny");
     ASSERT_NE(tiny, nullptr);
     EXPECT_EQ(tiny->entries, editor.Entries());
 
-    TemplateEditor reopened;
-    ASSERT_TRUE(reopened.OpenTemplates(*tiny, messages.service));
+    TemplateEditor reopened(messages.service, user.Path());
+    ASSERT_TRUE(reopened.OpenTemplates(*tiny));
     reopened.SelectRow(0);
     reopened.RemoveItem();
     ASSERT_TRUE(reopened.SaveTemplates());

@@ -27,17 +27,23 @@ std::string SizeText(const TemplateEntry& entry) {
 
 }  // namespace
 
+TemplateEditor::TemplateEditor(MessageService& messages, std::filesystem::path userFolder,
+                               ITemplateEditorObserver* observer)
+    : messages_(messages), userFolder_(std::move(userFolder)), observer_(observer) {}
+
 void TemplateEditor::NewTemplate() {
     name_ = std::string(kNewName);
     path_.clear();
     entries_.clear();
     selected_ = -1;
     modified_ = false;
+    TemplateChanged();
+    RowsChanged();
 }
 
-bool TemplateEditor::OpenTemplates(const IconTemplate& source, MessageService& messages) {
+bool TemplateEditor::OpenTemplates(const IconTemplate& source) {
     if (source.Locked()) {
-        messages.Show(texts::TemplateLocked, MessageType::Exclamation);
+        messages_.Show(texts::TemplateLocked, MessageType::Exclamation);
         return false;
     }
     name_ = source.name;
@@ -45,6 +51,8 @@ bool TemplateEditor::OpenTemplates(const IconTemplate& source, MessageService& m
     entries_ = source.entries;
     selected_ = entries_.empty() ? -1 : 0;
     modified_ = false;
+    TemplateChanged();
+    RowsChanged();
     return true;
 }
 
@@ -52,17 +60,18 @@ bool TemplateEditor::SaveTemplates() {
     if (path_.empty()) return false;
     if (!WriteTemplateFile(path_, entries_)) return false;
     modified_ = false;
+    TemplateChanged();
     return true;
 }
 
-bool TemplateEditor::SaveTemplatesAs(std::string_view name,
-                                     const std::filesystem::path& userFolder) {
-    if (!ValidTemplateName(name) || userFolder.empty()) return false;
-    const std::filesystem::path file = userFolder / (std::string(name) + ".ini");
+bool TemplateEditor::SaveTemplatesAs(std::string_view name) {
+    if (!ValidTemplateName(name) || userFolder_.empty()) return false;
+    const std::filesystem::path file = userFolder_ / (std::string(name) + ".ini");
     if (!WriteTemplateFile(file, entries_)) return false;
     name_ = std::string(name);
     path_ = file.string();
     modified_ = false;
+    TemplateChanged();
     return true;
 }
 
@@ -77,6 +86,7 @@ bool TemplateEditor::AddItem(int width, int height, int bits, bool compressed) {
     entries_.push_back(entry);
     selected_ = static_cast<int>(entries_.size()) - 1;
     modified_ = true;
+    RowsChanged();
     return true;
 }
 
@@ -86,6 +96,7 @@ bool TemplateEditor::RemoveItem() {
     if (selected_ >= static_cast<int>(entries_.size()))
         selected_ = static_cast<int>(entries_.size()) - 1;
     modified_ = true;
+    RowsChanged();
     return true;
 }
 
@@ -95,6 +106,7 @@ bool TemplateEditor::MoveUp() {
               entries_[static_cast<std::size_t>(selected_ - 1)]);
     --selected_;
     modified_ = true;
+    RowsChanged();
     return true;
 }
 
@@ -104,15 +116,17 @@ bool TemplateEditor::MoveDown() {
               entries_[static_cast<std::size_t>(selected_ + 1)]);
     ++selected_;
     modified_ = true;
+    RowsChanged();
     return true;
 }
 
 void TemplateEditor::SelectRow(int row) {
     selected_ = (row >= 0 && row < static_cast<int>(entries_.size())) ? row : -1;
+    RowsChanged();
 }
 
 void TemplateEditor::UnselectRows() {
-    selected_ = -1;
+    SelectRow(-1);
 }
 
 int TemplateEditor::UpdateScrollBar(int firstShown, int visibleRows) const {

@@ -1,7 +1,7 @@
 #pragma once
-// The template editor's logic: the list of formats being edited with its selected row, and
-// the operations of the editor window as functions. The window shows Rows() and forwards
-// its buttons here.
+// The template editor's logic (frmEditTemplate): the list of formats being edited with its
+// selected row, and the operations of the editor window as commands. The window forwards
+// its buttons here, shows Rows() and follows the editor through an ITemplateEditorObserver.
 
 #include <filesystem>
 #include <string>
@@ -20,21 +20,35 @@ struct TemplateRowText {
     std::string compressed;  // "No" or "Yes"
 };
 
+class ITemplateEditorObserver {
+  public:
+    virtual ~ITemplateEditorObserver() = default;
+    // Rows(), SelectedRow() or UpdateLabel() changed.
+    virtual void RowsChanged() {}
+    // Another template is edited, or it was saved: Name(), Path(), Modified().
+    virtual void TemplateChanged() {}
+};
+
 class TemplateEditor {
   public:
     static constexpr std::string_view kNewName = "NEW";
+
+    // Editing starts with a new template. Messages go through `messages`; new templates
+    // are saved into `userFolder`. Both, and the observer if any, must outlive the editor.
+    TemplateEditor(MessageService& messages, std::filesystem::path userFolder,
+                   ITemplateEditorObserver* observer = nullptr);
 
     // Starts a new template under the working name "NEW" with no entries.
     void NewTemplate();
     // Reads a template into the list. A locked template cannot be edited: "This template
     // cannot be edited." is shown and false returned, leaving the editor as it was.
-    bool OpenTemplates(const IconTemplate& source, MessageService& messages);
+    bool OpenTemplates(const IconTemplate& source);
     // Writes the list to the template's file, one line per entry, first to last.
     bool SaveTemplates();
-    // Saves under a new name, "<name>.ini" in `userFolder`, and keeps editing that file. A
-    // name that is empty, holds a path separator or a character that file names cannot
-    // hold on Windows is refused.
-    bool SaveTemplatesAs(std::string_view name, const std::filesystem::path& userFolder);
+    // Saves under a new name, "<name>.ini" in the user's templates folder, and keeps
+    // editing that file. A name that is empty, holds a path separator or a character that
+    // file names cannot hold on Windows is refused.
+    bool SaveTemplatesAs(std::string_view name);
 
     // Adds a format after the last row and selects it. Refused (false) when the list holds
     // 65 entries, or a side is outside 1..256, or the depth is not 1, 4, 8, 24 or 32.
@@ -69,6 +83,16 @@ class TemplateEditor {
     bool Modified() const { return modified_; }
 
   private:
+    void RowsChanged() const {
+        if (observer_) observer_->RowsChanged();
+    }
+    void TemplateChanged() const {
+        if (observer_) observer_->TemplateChanged();
+    }
+
+    MessageService& messages_;
+    std::filesystem::path userFolder_;
+    ITemplateEditorObserver* observer_;
     std::string name_ = std::string(kNewName);
     std::string path_;
     std::vector<TemplateEntry> entries_;

@@ -1,4 +1,4 @@
-// The Editor's inspector panel and its fixes.
+// The inspector's check and fixes.
 //
 // Choices made here:
 // - "Add Icons" inserts a blank image of every missing format at its place in the standard
@@ -7,9 +7,8 @@
 //   source and scales it into every blank image.
 // - "Show" makes the second image of the first group of duplicates current and lists every
 //   duplicate for the window to highlight.
-#include <algorithm>
+#include "editor/InspectorController.h"
 
-#include "editor/Editor.h"
 #include "editor/EditorTexts.h"
 #include "editor/IconFormats.h"
 #include "editor/ImageScaling.h"
@@ -28,16 +27,7 @@ int StandardPosition(const IconSet& set, const IconFormat& format) {
 void AddMissingFormats(IconSet& set, const std::vector<TemplateEntry>& missing) {
     for (const TemplateEntry& entry : missing) {
         if (set.Full()) break;
-        IconImage image;
-        image.info.widthMinus1 = entry.widthMinus1;
-        image.info.heightMinus1 = entry.heightMinus1;
-        image.info.bitCount = entry.bits;
-        image.info.png = entry.compressed;
-        for (int x = 0; x < entry.Width(); ++x) {
-            for (int y = 0; y < entry.Height(); ++y)
-                image.Color(x, y) = TransparentColor;
-        }
-        set.InsertIcon(StandardPosition(set, FormatOf(entry)), std::move(image));
+        set.InsertIcon(StandardPosition(set, FormatOf(entry)), BlankImage(entry));
     }
 }
 
@@ -53,40 +43,71 @@ int CopySource(const IconSet& set) {
 
 }  // namespace
 
-void Editor::RunInspector() {
+std::vector<TemplateEntry> DefaultRequiredFormats(const TemplateLibrary& templates) {
+    if (const IconTemplate* fallback = templates.Find(kDefaultTemplateName))
+        return fallback->entries;
+    std::vector<TemplateEntry> formats;
+    for (int side : {256, 48, 32, 24, 16}) {
+        TemplateEntry entry;
+        entry.widthMinus1 = static_cast<std::int16_t>(side - 1);
+        entry.heightMinus1 = static_cast<std::int16_t>(side - 1);
+        entry.bits = 32;
+        entry.compressed = side == 256 ? 1 : 0;
+        formats.push_back(entry);
+    }
+    return formats;
+}
+
+InspectorController::InspectorController(IconSet& set, MessageService& messages,
+                                         IInspectorHost& host, EditorEvents& events,
+                                         std::vector<TemplateEntry> formats)
+    : set_(set), messages_(messages), host_(host), events_(events), rules_{std::move(formats)} {}
+
+void InspectorController::Check() {
     inspector_.Check(set_, rules_);
+    events_.Notify(&IEditorObserver::InspectorChanged);
 }
 
-void Editor::SetCustomFormats(bool custom) {
+void InspectorController::SetCustomFormats(bool custom) {
     rules_.custom = custom;
-    RunInspector();
+    Check();
 }
 
-bool Editor::FixInspectorProblem() {
+void InspectorController::SetRequiredFormats(std::vector<TemplateEntry> formats) {
+    rules_.required = std::move(formats);
+    Check();
+}
+
+void InspectorController::StartOver(std::vector<TemplateEntry> formats) {
+    rules_ = {std::move(formats), false};
+    highlighted_.clear();
+    Check();
+}
+
+bool InspectorController::Fix() {
     if (!InspectorApplies(set_)) return false;
     highlighted_.clear();
+    const int current = host_.CurrentIcon();
+    int next = current;
+    bool moved = false;
     bool changed = false;
-    const int current = state_.CurrentIcon;
     switch (inspector_.State()) {
         case InspectorState::Correct:
             return false;
-        case InspectorState::MissingFormats: {
+        case InspectorState::MissingFormats:
             AddMissingFormats(set_, MissingFormats(set_, rules_.required));
             changed = true;
             break;
-        }
-        case InspectorState::NotSorted: {
-            const std::vector<int> moved = SortIntoStandardOrder(set_);
+        case InspectorState::NotSorted:
             // The current image stays current at its new place; its pixels are unchanged,
             // so its undo snapshots still apply.
-            state_.CurrentIcon =
-                static_cast<std::int16_t>(moved[static_cast<std::size_t>(current)]);
+            next = SortIntoStandardOrder(set_)[static_cast<std::size_t>(current)];
+            moved = true;
             changed = true;
             break;
-        }
         case InspectorState::AllBlank:
             // Nothing to copy from: check again and lay the canvas out anew.
-            RunLayout();
+            host_.RedoLayout();
             break;
         case InspectorState::SomeBlank: {
             const int source = CopySource(set_);
@@ -112,21 +133,12 @@ bool Editor::FixInspectorProblem() {
             const auto groups = FindDuplicates(set_);
             for (const auto& group : groups)
                 highlighted_.insert(highlighted_.end(), group.begin(), group.end());
-            if (!groups.empty()) SelectImage(groups.front()[1]);
+            if (!groups.empty()) host_.SelectImage(groups.front()[1]);
             break;
         }
     }
-    if (changed) {
-        MarkModified();
-        // Images were added, removed or redrawn: the current one may be another now.
-        const int clamped = std::clamp<int>(state_.CurrentIcon, 0, std::max(set_.LastIcon(), 0));
-        if (inspector_.State() != InspectorState::NotSorted) {
-            state_.CurrentIcon = static_cast<std::int16_t>(clamped);
-            ResetUndosRepeats();
-        }
-        RunLayout();
-    }
-    RunInspector();
+    if (changed) host_.ImagesChanged(next, moved);
+    Check();
     return changed;
 }
 

@@ -1,0 +1,100 @@
+#include "editor/CanvasController.h"
+
+#include "editor/PixelStatus.h"
+
+namespace iw {
+
+CanvasController::CanvasController(ICanvasHost& host, ToolControls& tools, IRandomSource& random,
+                                   EditorEvents& events, ToolSet toolSet)
+    : host_(host), tools_(tools), random_(random), events_(events), toolSet_(std::move(toolSet)) {}
+
+ITool* CanvasController::CurrentTool() const {
+    return toolSet_[static_cast<std::size_t>(tools_.State().CurrentTool)].get();
+}
+
+ToolContext CanvasController::Context(IconImage& image) {
+    return {image, tools_.State(), *this, random_, tools_, floating_};
+}
+
+void CanvasController::AddUndo() {
+    host_.AddUndo();
+    if (stroke_) stroke_->recorded = true;
+}
+
+void CanvasController::Apply(IconImage& image, const ToolResult& result) {
+    if (!result.imageChanged) return;
+    image.originalPng.clear();
+    events_.Notify(&IEditorObserver::ImageChanged);
+}
+
+void CanvasController::PointerPress(Point cell, MouseButton button, KeyModifiers modifiers) {
+    IconImage* image = host_.EditedImage();
+    ITool* tool = CurrentTool();
+    if (!image || !tool || stroke_) return;
+    stroke_ = Stroke{tool, button, cell, false};
+    ToolContext context = Context(*image);
+    Apply(*image, tool->Press(context, {cell, button, modifiers}));
+}
+
+void CanvasController::PointerMove(Point cell, KeyModifiers modifiers) {
+    IconImage* image = host_.EditedImage();
+    if (!image || !stroke_ || cell == stroke_->last) return;
+    stroke_->last = cell;
+    ToolContext context = Context(*image);
+    Apply(*image, stroke_->tool->Move(context, {cell, stroke_->button, modifiers}));
+}
+
+void CanvasController::PointerRelease(Point cell, KeyModifiers modifiers) {
+    IconImage* image = host_.EditedImage();
+    if (!image || !stroke_) {
+        stroke_.reset();
+        return;
+    }
+    PointerMove(cell, modifiers);
+    ToolContext context = Context(*image);
+    Apply(*image, stroke_->tool->Release(context, {cell, stroke_->button, modifiers}));
+    const bool recorded = stroke_->recorded;
+    stroke_.reset();
+    if (recorded) host_.StrokeFinished();
+}
+
+bool CanvasController::KeyPress(const KeyEvent& event) {
+    IconImage* image = host_.EditedImage();
+    ITool* tool = CurrentTool();
+    if (!image || !tool) return false;
+    ToolContext context = Context(*image);
+    const std::optional<ToolResult> result = tool->Key(context, event);
+    if (result) Apply(*image, *result);
+    return result.has_value();
+}
+
+CursorHint CanvasController::CursorAt(Point cell) const {
+    const ITool* tool = CurrentTool();
+    return tool ? tool->CursorAt(floating_.get(), cell) : CursorHint::Tool;
+}
+
+std::string CanvasController::StatusTextAt(Point cell) const {
+    const IconImage* image = host_.EditedImage();
+    return image ? PixelStatusText(*image, cell.x, cell.y) : std::string();
+}
+
+bool CanvasController::DropFloatingSelection() {
+    IconImage* image = host_.EditedImage();
+    if (!floating_ || !image) return false;
+    floating_->Drop(*image, tools_.State().Selection);
+    floating_.reset();
+    Apply(*image, {true});
+    return true;
+}
+
+void CanvasController::CancelStroke() {
+    if (stroke_) stroke_->tool->Cancel();
+    stroke_.reset();
+}
+
+void CanvasController::Reset() {
+    CancelStroke();
+    floating_.reset();
+}
+
+}  // namespace iw

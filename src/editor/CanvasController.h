@@ -1,0 +1,79 @@
+#pragma once
+// The drawing canvas: pointer and key events handed to the current tool, the floating
+// selection above the image, and the status text for the pixel under the mouse.
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "editor/EditorObserver.h"
+#include "editor/ToolControls.h"
+#include "editor/tools/StandardTools.h"
+
+namespace iw {
+
+// What the canvas asks of the editor that holds it.
+class ICanvasHost {
+  public:
+    virtual ~ICanvasHost() = default;
+    // The image being edited; nullptr while the set is empty.
+    virtual IconImage* EditedImage() = 0;
+    // Records the edited image before a change (Undo can bring it back).
+    virtual void AddUndo() = 0;
+    // A stroke that recorded an undo snapshot has ended: the image has changed.
+    virtual void StrokeFinished() = 0;
+};
+
+class CanvasController final : private IUndoRecorder {
+  public:
+    CanvasController(ICanvasHost& host, ToolControls& tools, IRandomSource& random,
+                     EditorEvents& events, ToolSet toolSet = StandardTools());
+
+    // Pointer events in image cells (ViewController::CanvasToImage). A stroke belongs to
+    // the tool that took the press, until the release; another press meanwhile is ignored,
+    // and so is a move that stays on its cell. The release first moves the tool to its cell.
+    void PointerPress(Point cell, MouseButton button, KeyModifiers modifiers = {});
+    void PointerMove(Point cell, KeyModifiers modifiers = {});
+    void PointerRelease(Point cell, KeyModifiers modifiers = {});
+    // A key for the current tool; false when it has no use for it (the window passes it on).
+    bool KeyPress(const KeyEvent& event);
+    bool Pressed() const { return stroke_.has_value(); }
+
+    // The cursor over a cell, and the status bar text for the pixel there ("" outside).
+    CursorHint CursorAt(Point cell) const;
+    std::string StatusTextAt(Point cell) const;
+
+    // The picture floating above the image (Select, Text), or nullptr.
+    const IFloatingSelection* FloatingSelection() const { return floating_.get(); }
+    // Paints the floating selection into the image (opaque or transparent as chosen).
+    // Undo, Repeat and switching images do this first. False when there was none.
+    bool DropFloatingSelection();
+    // Cuts a stroke short (another image).
+    void CancelStroke();
+    // A new set: the stroke is cut short and a floating selection let go, since the image
+    // it floated over is gone.
+    void Reset();
+
+  private:
+    struct Stroke {
+        ITool* tool;
+        MouseButton button;
+        Point last;
+        bool recorded;  // it recorded an undo snapshot
+    };
+
+    void AddUndo() override;
+    ITool* CurrentTool() const;
+    ToolContext Context(IconImage& image);
+    void Apply(IconImage& image, const ToolResult& result);
+
+    ICanvasHost& host_;
+    ToolControls& tools_;
+    IRandomSource& random_;
+    EditorEvents& events_;
+    ToolSet toolSet_;
+    std::optional<Stroke> stroke_;
+    std::unique_ptr<IFloatingSelection> floating_;
+};
+
+}  // namespace iw

@@ -1,0 +1,234 @@
+#include "editor/DocumentSession.h"
+
+#include <filesystem>
+
+#include "editor/BlankIcons.h"
+#include "editor/EditorTexts.h"
+#include "editor/IconFormats.h"
+#include "services/core/TextCatalog.h"
+
+namespace iw {
+namespace {
+
+TemplateEntry SquareFormat(int side, int bits, int png) {
+    TemplateEntry format;
+    format.widthMinus1 = static_cast<std::int16_t>(side - 1);
+    format.heightMinus1 = static_cast<std::int16_t>(side - 1);
+    format.bits = static_cast<std::int16_t>(bits);
+    format.compressed = static_cast<std::int16_t>(png);
+    return format;
+}
+
+// One blank 32 x 32 image of 32 bits: new documents, cursors and the untitled fallback.
+const TemplateEntry kDefaultFormat = SquareFormat(32, 32, 0);
+
+}  // namespace
+
+DocumentSession::DocumentSession(IconSet& set, const UndoHistory& history,
+                                 ProgramSettings& settings, const EditorServices& services,
+                                 IDocumentHost& host, EditorEvents& events)
+    : set_(set),
+      history_(history),
+      settings_(settings),
+      services_(services),
+      host_(host),
+      events_(events) {}
+
+CoreContext DocumentSession::Context() const {
+    return {settings_.Messages(), services_.progress, services_.log};
+}
+
+// ---- Flags and captions -----------------------------------------------------------------
+
+bool DocumentSession::Unmodified() const {
+    return savedStateKnown_ && history_.StateId() == savedStateId_;
+}
+
+void DocumentSession::MarkSaved() {
+    savedStateKnown_ = true;
+    savedStateId_ = history_.StateId();
+}
+
+std::string DocumentSession::DocumentName() const {
+    if (fileName_.empty()) return GetText(texts::Untitled);
+    return std::filesystem::path(fileName_).filename().string();
+}
+
+std::string DocumentSession::Caption() const {
+    return DocumentName() + std::string(texts::kCaptionSuffix);
+}
+
+std::string DocumentSession::ModeMenuCaption() const {
+    return GetText(set_.mode == FileMode::ICO ? texts::IconMenu : texts::CursorMenu);
+}
+
+void DocumentSession::SwitchMode(FileMode mode) {
+    if (set_.mode == mode) return;
+    set_.mode = mode;
+    // The file will be written in the other format: that is a change to save.
+    MarkModified();
+    events_.Notify(&IEditorObserver::ModeChanged);
+}
+
+// ---- Ask to save ------------------------------------------------------------------------
+
+MessageAnswer DocumentSession::AskToSave() {
+    if (Unmodified()) {
+        lastAnswer_ = MessageAnswer::No;
+        return lastAnswer_;
+    }
+    MessageService& messages = settings_.Messages();
+    MessageAnswer answer;
+    if (HasFileName()) {
+        const std::string text = ReplacePlaceholder(GetText(texts::SaveFilename), "%f", fileName_);
+        answer = messages.ShowMessage(texts::SaveFilename.key, text, texts::kProgramTitle,
+                                      MessageType::Exclamation, false, MessageButtons::YesNoCancel);
+    } else {
+        answer = messages.Show(texts::SaveUntitled, MessageType::Exclamation,
+                               MessageButtons::YesNoCancel);
+    }
+    if (answer == MessageAnswer::Yes && !Save()) answer = MessageAnswer::Cancel;
+    lastAnswer_ = answer;
+    return answer;
+}
+
+// ---- New sets ---------------------------------------------------------------------------
+
+void DocumentSession::StartFreshSet(FileMode mode, const TemplateEntry& format) {
+    set_.Clear();
+    set_.properties = {};
+    set_.animation = {};
+    set_.InsertIcon(0, BlankImage(format));
+    set_.mode = mode;
+    fileName_.clear();
+}
+
+void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
+    host_.SetReplaced(formats);
+    MarkSaved();
+    events_.Notify(&IEditorObserver::ModeChanged);
+    events_.Notify(&IEditorObserver::CaptionChanged);
+}
+
+void DocumentSession::Discard() {
+    set_.Clear();
+    fileName_.clear();
+}
+
+void DocumentSession::StartUntitled() {
+    StartFreshSet(FileMode::ICO, kDefaultFormat);
+    Replaced();
+}
+
+bool DocumentSession::NewDocument() {
+    return NewBlankIcon(0);
+}
+
+bool DocumentSession::NewBlankIcon(int kind) {
+    if (!Ask()) return false;
+    const BlankIconFormat format = BlankIconKind(kind);
+    StartFreshSet(FileMode::ICO, SquareFormat(format.side, format.bits, format.png));
+    Replaced();
+    return true;
+}
+
+bool DocumentSession::NewCursor() {
+    return NewCursorSet(FileMode::CUR, texts::CreateCursor);
+}
+
+bool DocumentSession::NewAnimatedCursor() {
+    return NewCursorSet(FileMode::ANI, texts::CreateANI);
+}
+
+bool DocumentSession::NewCursorSet(FileMode mode, const TextId& hint) {
+    if (!Ask()) return false;
+    StartFreshSet(mode, kDefaultFormat);
+    Replaced();
+    settings_.Messages().Show(hint, MessageType::Information);
+    return true;
+}
+
+bool DocumentSession::NewFromTemplate(const IconTemplate& source) {
+    if (source.entries.empty() || !Ask()) return false;
+    StartFreshSet(FileMode::ICO, source.entries.front());
+    for (std::size_t i = 1; i < source.entries.size() && !set_.Full(); ++i)
+        set_.InsertIcon(set_.Count(), BlankImage(source.entries[i]));
+    Replaced(&source.entries);
+    return true;
+}
+
+// ---- Open -------------------------------------------------------------------------------
+
+bool DocumentSession::OpenDocument(const std::string& path) {
+    if (!DocumentExists(path)) {
+        settings_.Messages().Show(texts::DoesNotExist, MessageType::Exclamation);
+        return false;
+    }
+    if (!Ask()) return false;
+    set_.Clear();
+    set_.properties = {};
+    set_.animation = {};
+    CoreContext context = Context();
+    // The reader sets the file's mode.
+    if (!services_.documents.Read(path, set_, context) || set_.Empty()) {
+        // The reader has told the user why; a new untitled set takes the failed one's place.
+        StartUntitled();
+        return false;
+    }
+    fileName_ = path;
+    settings_.AddRecentFile(path);
+    Replaced();
+    return true;
+}
+
+bool DocumentSession::OpenRecent(int number) {
+    const std::string path =
+        number == 1 ? settings_.RecentFiles()[0] : settings_.MoveRecentFileToTop(number);
+    if (path == kNoRecentFile) return false;
+    return OpenDocument(path);
+}
+
+bool DocumentSession::OpenEditRequest(const std::string& requestFile) {
+    editRequest_ = requestFile;
+    XmlStore request;
+    request.Load(requestFile);
+    services_.view.ShowEditRequest(GetText(texts::EditingFor) +
+                                   request.GetValue("Request\\Program", ""));
+    const std::string icon = request.GetValue("Request\\File", "");
+    return DocumentExists(icon) && OpenDocument(icon);
+}
+
+// ---- Save -------------------------------------------------------------------------------
+
+bool DocumentSession::WriteTo(const std::string& path) {
+    CoreContext context = Context();
+    const DocumentWrite how{set_.mode, host_.CurrentIcon()};
+    if (!services_.documents.Write(path, set_, how, context)) return false;
+    fileName_ = path;
+    MarkSaved();
+    settings_.AddRecentFile(path);
+    events_.Notify(&IEditorObserver::CaptionChanged);
+    return true;
+}
+
+bool DocumentSession::Save() {
+    if (HasFileName()) return WriteTo(fileName_);
+    const std::optional<std::string> path =
+        services_.view.ChooseSavePath(set_.mode, DocumentName());
+    if (!path || path->empty()) return false;
+    return SaveAs(*path);
+}
+
+bool DocumentSession::SaveAs(const std::string& path) {
+    if (path.empty()) return false;
+    if (DocumentExists(path)) {
+        const std::string text = ReplacePlaceholder(GetText(texts::OverwriteFile), "%f", path);
+        const MessageAnswer answer = settings_.Messages().ShowMessage(
+            texts::OverwriteFile.key, text, texts::kProgramTitle, MessageType::Exclamation, false,
+            MessageButtons::YesNo);
+        if (answer != MessageAnswer::Yes) return false;
+    }
+    return WriteTo(path);
+}
+
+}  // namespace iw

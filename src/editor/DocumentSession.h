@@ -1,0 +1,111 @@
+#pragma once
+// The document lifecycle of the main window: the file name and whether there are unsaved
+// changes, ask to save, new sets, open, save and save as, the recent files, the file mode
+// and edit requests from other programs.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "document/model/IconSet.h"
+#include "editor/EditorObserver.h"
+#include "editor/EditorServices.h"
+#include "editor/ProgramSettings.h"
+#include "editor/UndoHistory.h"
+#include "services/core/Texts.h"
+#include "services/desktop/Template.h"
+
+namespace iw {
+
+// What the session asks of the editor that holds it.
+class IDocumentHost {
+  public:
+    virtual ~IDocumentHost() = default;
+    // A new or opened set has replaced the old one: the editor starts over on its first
+    // image. `formats` are those of the template it was made from, or nullptr.
+    virtual void SetReplaced(const std::vector<TemplateEntry>* formats) = 0;
+    // The image a cursor file is written from.
+    virtual int CurrentIcon() const = 0;
+};
+
+class DocumentSession {
+  public:
+    DocumentSession(IconSet& set, const UndoHistory& history, ProgramSettings& settings,
+                    const EditorServices& services, IDocumentHost& host, EditorEvents& events);
+
+    // Ask to save: No without asking when there are no unsaved changes; otherwise "Save
+    // changes to %f?" or "Save changes to untitled?" (Yes/No/Cancel). Yes saves, and a save
+    // that fails or is not given a path turns the answer into Cancel. The answer is kept.
+    MessageAnswer AskToSave();
+    MessageAnswer LastAnswer() const { return lastAnswer_; }
+
+    // New, open and the start-up tiles all ask first and do nothing on Cancel.
+    bool NewDocument();  // one blank 32 x 32 image of 32 bits
+    bool NewBlankIcon(int kind);
+    bool NewCursor();          // one blank image, cursor mode, the "CreateCursor" hint
+    bool NewAnimatedCursor();  // one blank image, animated cursor mode, the "CreateANI" hint
+    bool NewFromTemplate(const IconTemplate& source);
+    // A file that does not exist shows "This file could not be found." and changes nothing.
+    // A file that cannot be read leaves a new untitled set.
+    bool OpenDocument(const std::string& path);
+    // The recent-files menu items 1 to 4.
+    bool OpenRecent(int number);
+    // Another program asks for an icon to be edited: the request file names the program
+    // ("Request\Program"), shown to the user, and the icon ("Request\File"), opened.
+    bool OpenEditRequest(const std::string& requestFile);
+    // Save to the file name, or ask for one (Save As) when the set has none.
+    bool Save();
+    // Before writing over an existing file: "The file %f already exists.  OK to overwrite?"
+    // and only Yes goes on.
+    bool SaveAs(const std::string& path);
+
+    // The mode menu. Switching to another mode marks the set modified.
+    void SwitchICOMode() { SwitchMode(FileMode::ICO); }
+    void SwitchCURMode() { SwitchMode(FileMode::CUR); }
+    void SwitchANIMode() { SwitchMode(FileMode::ANI); }
+    // For changes that undo does not cover (adding or removing images, properties).
+    void MarkModified() { savedStateKnown_ = false; }
+
+    bool HasFileName() const { return !fileName_.empty(); }
+    const std::string& FileName() const { return fileName_; }
+    std::string DocumentName() const;  // the file's name, or "untitled"
+    std::string Caption() const;       // document name + " - Quorvale Iconwright"
+    FileMode Mode() const { return set_.mode; }
+    std::string ModeMenuCaption() const;  // "&Icon" or "&Cursor"
+    // True after new, open and save, and again after undoing back to the saved state.
+    bool Unmodified() const;
+    // The edit request file, when one was given.
+    const std::string& EditRequest() const { return editRequest_; }
+
+  private:
+    friend class Editor;  // start-up uses Discard and StartUntitled
+
+    // Start-up: the set is emptied and the file name forgotten, without asking.
+    void Discard();
+    // Start-up when nothing else made a set: a new untitled one, without asking.
+    void StartUntitled();
+    bool Ask() { return AskToSave() != MessageAnswer::Cancel; }
+    void StartFreshSet(FileMode mode, const TemplateEntry& format);
+    // A cursor or an animated cursor of one blank image, then its hint.
+    bool NewCursorSet(FileMode mode, const TextId& hint);
+    void Replaced(const std::vector<TemplateEntry>* formats = nullptr);
+    bool WriteTo(const std::string& path);
+    void SwitchMode(FileMode mode);
+    void MarkSaved();
+    CoreContext Context() const;
+
+    IconSet& set_;
+    const UndoHistory& history_;
+    ProgramSettings& settings_;
+    EditorServices services_;
+    IDocumentHost& host_;
+    EditorEvents& events_;
+
+    std::string fileName_;
+    std::string editRequest_;
+    MessageAnswer lastAnswer_ = MessageAnswer::No;
+    bool savedStateKnown_ = true;
+    std::uint64_t savedStateId_ = 0;
+};
+
+}  // namespace iw
