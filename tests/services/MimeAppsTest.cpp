@@ -117,10 +117,12 @@ TEST(MimeAppsLookup, ListsAreReadDesktopFirstLevelByLevel) {
 
 TEST(MimeAppsLookup, TheFirstInstalledApplicationOfTheFirstListThatNamesOneWins) {
     Desktop d;
-    for (const char* id : {"a.desktop", "b.desktop", "c.desktop", "d.desktop"})
+    for (const char* id : {"a.desktop", "c.desktop", "d.desktop"})
         d.Install(d.dirs.dataDirs[1], id);
+    d.Install(d.dirs.dataDirs[1], "b.desktop", "TryExec=sh\n");  // found on the PATH
     d.Install(d.dirs.dataHome, "hidden.desktop", "Hidden=true\n");
     d.Install(d.dirs.dataDirs[0], "gone.desktop", "TryExec=/no/such/program\n");
+    d.Install(d.dirs.dataDirs[0], "unknown.desktop", "TryExec=iw-no-such-program\n");
     WriteText(d.dirs.dataDirs[0] / "applications/vendor/e.desktop", "[Desktop Entry]\n");
     d.Default(d.dirs.dataDirs[0] / "applications/mimeapps.list", "d.desktop");
     EXPECT_EQ(DefaultApplication(d.dirs, kIco), "d.desktop");
@@ -128,7 +130,8 @@ TEST(MimeAppsLookup, TheFirstInstalledApplicationOfTheFirstListThatNamesOneWins)
     EXPECT_EQ(DefaultApplication(d.dirs, kIco), "c.desktop");
     d.Default(d.dirs.configHome / "mimeapps.list", "missing.desktop;hidden.desktop;b.desktop");
     EXPECT_EQ(DefaultApplication(d.dirs, kIco), "b.desktop");
-    d.Default(d.dirs.configHome / "plasma-mimeapps.list", "gone.desktop;vendor-e.desktop");
+    d.Default(d.dirs.configHome / "plasma-mimeapps.list",
+              "gone.desktop;unknown.desktop;vendor-e.desktop");
     EXPECT_EQ(DefaultApplication(d.dirs, kIco), "vendor-e.desktop");
     d.Default(d.dirs.configHome / "kde-mimeapps.list", "a.desktop");
     EXPECT_EQ(DefaultApplication(d.dirs, kIco), "a.desktop");

@@ -1,6 +1,7 @@
 #include "services/desktop/MimeApps.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "services/desktop/IniText.h"
 #include "services/desktop/TextFiles.h"
@@ -32,17 +33,33 @@ std::optional<std::filesystem::path> FindInFolder(const std::filesystem::path& f
     return std::nullopt;
 }
 
-// An entry whose TryExec names a program that is not there is not installed.
-bool TryExecFound(std::string_view tryExec) {
-    if (tryExec.empty()) return true;
-    const std::filesystem::path program{std::string(tryExec)};
-    if (!program.is_absolute()) return true;  // a name on the PATH: assumed there
+bool IsExecutableFile(const std::filesystem::path& file) {
     std::error_code ec;
-    const auto status = std::filesystem::status(program, ec);
+    const auto status = std::filesystem::status(file, ec);
     using std::filesystem::perms;
     return std::filesystem::is_regular_file(status) &&
            (status.permissions() & (perms::owner_exec | perms::group_exec | perms::others_exec)) !=
                perms::none;
+}
+
+// An entry whose TryExec names a program that is not there (by its path, or by its name on
+// the PATH) is not installed.
+bool TryExecFound(std::string_view tryExec) {
+    if (tryExec.empty()) return true;
+    const std::filesystem::path program{std::string(tryExec)};
+    if (program.is_absolute()) return IsExecutableFile(program);
+    const char* path = std::getenv("PATH");
+    const std::string_view folders = path ? path : "";
+    for (std::size_t start = 0; start <= folders.size();) {
+        std::size_t colon = folders.find(':', start);
+        if (colon == std::string_view::npos) colon = folders.size();
+        const std::string_view folder = folders.substr(start, colon - start);
+        if (!folder.empty() &&
+            IsExecutableFile(std::filesystem::path(std::string(folder)) / program))
+            return true;
+        start = colon + 1;
+    }
+    return false;
 }
 
 std::string JoinIds(const std::vector<std::string>& ids) {
