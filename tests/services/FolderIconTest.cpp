@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "IniFragments.h"
 #include "services/desktop/FolderIcons.h"
 #include "support/TestSupport.h"
 
@@ -48,6 +49,28 @@ TEST(DesktopIni, AFileWithoutTheSectionGetsItAtTheEndAndLosesItAgain) {
     EXPECT_EQ(RemoveDesktopIniIcon(set), other);
     EXPECT_TRUE(NothingLeft(RemoveDesktopIniIcon(SetDesktopIniIcon("\r\n", "a.ico", 0))));
     EXPECT_FALSE(ReadDesktopIniIcon("[Other]\r\nIconFile=x.ico\r\n"));
+}
+
+TEST(DesktopIni, AnyTextEndsUpWithOurIconOnceAndGivesItBack) {
+    std::mt19937 random(7);
+    const std::vector<std::string> fragments = {"[.ShellClassInfo]\r\n",
+                                                "[.shellclassinfo]",
+                                                "IconFile=old.ico\r\n",
+                                                " iconindex = 4\n",
+                                                "IconResource=x,1\r\n",
+                                                "[Other]\n",
+                                                "IconFile",
+                                                "IconIndex="};
+    for (int round = 0; round < 2000; ++round) {
+        const std::string text = test::RandomIniText(random, fragments);
+        const std::string set = SetDesktopIniIcon(text, "C:\\a b\\c.ico", 5);
+        const auto icon = ReadDesktopIniIcon(set);
+        ASSERT_TRUE(icon) << testing::PrintToString(text);
+        EXPECT_EQ(icon->iconFile, "C:\\a b\\c.ico");
+        EXPECT_EQ(icon->iconIndex, "5");
+        EXPECT_EQ(SetDesktopIniIcon(set, "C:\\a b\\c.ico", 5), set);
+        EXPECT_FALSE(ReadDesktopIniIcon(RemoveDesktopIniIcon(set))) << testing::PrintToString(text);
+    }
 }
 
 TEST(DirectoryFile, IconIsSetInTheDesktopEntryAndTakenOutAlone) {

@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "IniFragments.h"
 #include "services/desktop/AppIdentity.h"
 #include "services/desktop/FreedesktopAssociations.h"
 #include "services/desktop/IniText.h"
@@ -68,6 +69,35 @@ TEST(MimeAppsEdit, NewFilesGroupsAndDesktopListsWithoutTheType) {
     // Line ends alone are no reason to rewrite.
     const std::string done = "[Default Applications]\r\nimage/vnd.microsoft.icon=a.desktop;";
     EXPECT_EQ(SetDefaultApplication(done, kIco, "a.desktop"), done);
+}
+
+TEST(MimeAppsEdit, AnyTextGetsOneLineWithOursFirstAndKeepsItsOtherTypes) {
+    std::mt19937 random(11);
+    const std::vector<std::string> fragments = {"[Default Applications]\n",
+                                                "[Removed Associations]\r\n",
+                                                "[Added Associations]\n",
+                                                "image/vnd.microsoft.icon=",
+                                                "image/vnd.microsoft.icon = b.desktop;a.desktop\n",
+                                                "a.desktop;",
+                                                "text/plain=c.desktop\n",
+                                                ";;"};
+    for (int round = 0; round < 2000; ++round) {
+        const std::string text = test::RandomIniText(random, fragments);
+        const std::string set = SetDefaultApplication(text, kIco, "a.desktop");
+        EXPECT_EQ(SetDefaultApplication(set, kIco, "a.desktop"), set);
+        const IniText list(set, IniText::Names::CaseSensitive);
+        int lines = 0;
+        for (std::size_t group : list.FindGroups("Default Applications")) {
+            if (const auto value = list.Value(group, kIco)) {
+                ++lines;
+                EXPECT_EQ(DesktopIdList(*value).front(), "a.desktop");
+            }
+        }
+        EXPECT_EQ(lines, 1) << testing::PrintToString(text);
+        const IniText before(text, IniText::Names::CaseSensitive);
+        EXPECT_EQ(list.Value(list.FindGroup("Default Applications"), "text/plain"),
+                  before.Value(before.FindGroup("Default Applications"), "text/plain"));
+    }
 }
 
 // A scratch home and system with every level of lists.

@@ -19,6 +19,20 @@ IniText DirectoryFile(std::string_view text) {
     return IniText(text, IniText::Names::CaseSensitive);
 }
 
+// Takes the keys out of every group of that name (last first, so that the line numbers of
+// the groups before stay right), dropping a group that is left empty. A file edited by hand
+// may repeat a group; the shell reads the first.
+void RemoveKeys(IniText& ini, std::string_view group, std::initializer_list<std::string_view> keys,
+                bool keepFirst) {
+    const std::vector<std::size_t> groups = ini.FindGroups(group);
+    for (auto it = groups.rbegin(); it != groups.rend(); ++it) {
+        if (keepFirst && it + 1 == groups.rend()) break;
+        for (std::string_view key : keys)
+            ini.RemoveKey(*it, key);
+        ini.RemoveGroupIfEmpty(*it);
+    }
+}
+
 }  // namespace
 
 std::optional<DesktopIniIcon> ReadDesktopIniIcon(std::string_view text) {
@@ -31,6 +45,7 @@ std::optional<DesktopIniIcon> ReadDesktopIniIcon(std::string_view text) {
 
 std::string SetDesktopIniIcon(std::string_view text, std::string_view iconFile, int iconIndex) {
     IniText ini = DesktopIni(text);
+    RemoveKeys(ini, kShellSection, {kIconFile, kIconIndex}, true);
     std::size_t section = ini.FindGroup(kShellSection);
     if (section == IniText::kNone) section = ini.AddGroup(kShellSection, false);
     // Each missing line goes right after the header: the index first, so that the file line
@@ -42,11 +57,8 @@ std::string SetDesktopIniIcon(std::string_view text, std::string_view iconFile, 
 
 std::string RemoveDesktopIniIcon(std::string_view text) {
     IniText ini = DesktopIni(text);
-    const std::size_t section = ini.FindGroup(kShellSection);
-    if (section == IniText::kNone) return std::string(text);
-    ini.RemoveKey(section, kIconFile);
-    ini.RemoveKey(section, kIconIndex);
-    ini.RemoveGroupIfEmpty(section);
+    if (ini.FindGroup(kShellSection) == IniText::kNone) return std::string(text);
+    RemoveKeys(ini, kShellSection, {kIconFile, kIconIndex}, false);
     return ini.Text("\r\n");
 }
 
@@ -67,10 +79,8 @@ std::string SetDirectoryIcon(std::string_view text, std::string_view icon) {
 
 std::string RemoveDirectoryIcon(std::string_view text) {
     IniText entry = DirectoryFile(text);
-    const std::size_t group = entry.FindGroup(kEntryGroup);
-    if (group == IniText::kNone) return std::string(text);
-    entry.RemoveKey(group, kIcon);
-    entry.RemoveGroupIfEmpty(group);
+    if (entry.FindGroup(kEntryGroup) == IniText::kNone) return std::string(text);
+    RemoveKeys(entry, kEntryGroup, {kIcon}, false);
     return entry.Text("\n");
 }
 
