@@ -2,9 +2,7 @@
 // an icon in a scratch folder.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
-#include "IniFragments.h"
+#include "DesktopTestSupport.h"
 #include "services/desktop/FolderIcons.h"
 #include "support/TestSupport.h"
 
@@ -12,15 +10,9 @@ namespace iw {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string ReadText(const fs::path& file) {
-    const auto bytes = test::ReadFileBytes(file);
-    return {bytes.begin(), bytes.end()};
-}
-
-void WriteText(const fs::path& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
-}
+using test::ReadText;
+using test::RecordingRunner;
+using test::WriteText;
 
 TEST(DesktopIni, OtherSectionsAndKeysStayAndEachKeyHasOneLine) {
     const std::string text =
@@ -52,7 +44,6 @@ TEST(DesktopIni, AFileWithoutTheSectionGetsItAtTheEndAndLosesItAgain) {
 }
 
 TEST(DesktopIni, AnyTextEndsUpWithOurIconOnceAndGivesItBack) {
-    std::mt19937 random(7);
     const std::vector<std::string> fragments = {"[.ShellClassInfo]\r\n",
                                                 "[.shellclassinfo]",
                                                 "IconFile=old.ico\r\n",
@@ -61,8 +52,7 @@ TEST(DesktopIni, AnyTextEndsUpWithOurIconOnceAndGivesItBack) {
                                                 "[Other]\n",
                                                 "IconFile",
                                                 "IconIndex="};
-    for (int round = 0; round < 2000; ++round) {
-        const std::string text = test::RandomIniText(random, fragments);
+    for (const std::string& text : test::RandomIniTexts(7, fragments)) {
         const std::string set = SetDesktopIniIcon(text, "C:\\a b\\c.ico", 5);
         const auto icon = ReadDesktopIniIcon(set);
         ASSERT_TRUE(icon) << testing::PrintToString(text);
@@ -87,18 +77,6 @@ TEST(DirectoryFile, IconIsSetInTheDesktopEntryAndTakenOutAlone) {
 TEST(FileUri, EscapesEveryByteButTheUnreservedAndSlashes) {
     EXPECT_EQ(FileUri("/home/a b/x%y/Ä.ico"), "file:///home/a%20b/x%25y/%C3%84.ico");
 }
-
-struct RecordingRunner {
-    std::vector<std::vector<std::string>> calls;
-    platform::ProgramRun answer{true, 0};
-    ProgramRunner Runner() {
-        return [this](const std::string& program, const std::vector<std::string>& args) {
-            calls.push_back({program});
-            calls.back().insert(calls.back().end(), args.begin(), args.end());
-            return answer;
-        };
-    }
-};
 
 struct FolderFixture {
     test::TempDir root;

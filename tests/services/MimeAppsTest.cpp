@@ -1,9 +1,7 @@
 // mimeapps.list editing and lookup, and the freedesktop associations in a scratch home.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
-#include "IniFragments.h"
+#include "DesktopTestSupport.h"
 #include "services/desktop/AppIdentity.h"
 #include "services/desktop/FreedesktopAssociations.h"
 #include "services/desktop/IniText.h"
@@ -14,17 +12,10 @@ namespace iw {
 namespace {
 
 namespace fs = std::filesystem;
+using test::ReadText;
+using test::RecordingRunner;
+using test::WriteText;
 constexpr std::string_view kIco = "image/vnd.microsoft.icon";
-
-void WriteText(const fs::path& file, const std::string& text) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-std::string ReadText(const fs::path& file) {
-    const auto bytes = test::ReadFileBytes(file);
-    return {bytes.begin(), bytes.end()};
-}
 
 TEST(MimeAppsEdit, OursComesFirstOnOneLineAndEverythingElseStays) {
     const std::string text =
@@ -72,7 +63,6 @@ TEST(MimeAppsEdit, NewFilesGroupsAndDesktopListsWithoutTheType) {
 }
 
 TEST(MimeAppsEdit, AnyTextGetsOneLineWithOursFirstAndKeepsItsOtherTypes) {
-    std::mt19937 random(11);
     const std::vector<std::string> fragments = {"[Default Applications]\n",
                                                 "[Removed Associations]\r\n",
                                                 "[Added Associations]\n",
@@ -81,8 +71,7 @@ TEST(MimeAppsEdit, AnyTextGetsOneLineWithOursFirstAndKeepsItsOtherTypes) {
                                                 "a.desktop;",
                                                 "text/plain=c.desktop\n",
                                                 ";;"};
-    for (int round = 0; round < 2000; ++round) {
-        const std::string text = test::RandomIniText(random, fragments);
+    for (const std::string& text : test::RandomIniTexts(11, fragments)) {
         const std::string set = SetDefaultApplication(text, kIco, "a.desktop");
         EXPECT_EQ(SetDefaultApplication(set, kIco, "a.desktop"), set);
         const IniText list(set, IniText::Names::CaseSensitive);
@@ -191,17 +180,6 @@ TEST(DesktopEntry, TheInstalledEntryOffersTheThreeTypes) {
         expected.emplace_back(type.mimeType);
     EXPECT_EQ(types, expected);
 }
-
-struct RecordingRunner {
-    std::vector<std::vector<std::string>> calls;
-    ProgramRunner Runner() {
-        return [this](const std::string& program, const std::vector<std::string>& args) {
-            calls.push_back({program});
-            calls.back().insert(calls.back().end(), args.begin(), args.end());
-            return platform::ProgramRun{true, 0};
-        };
-    }
-};
 
 TEST(FreedesktopAssociations, AProgramOutsideAnInstallationGetsItsOwnEntry) {
     Desktop d;
