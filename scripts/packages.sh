@@ -3,7 +3,10 @@
 
 IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev"
 IW_TEST_PACKAGES="googletest libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev
-  clang libclang-rt-dev python3 python3-pil imagemagick icoutils optipng"
+  clang libclang-rt-dev python3 python3-pil imagemagick icoutils optipng
+  desktop-file-utils appstream groff-base"
+# cpack -G DEB: dpkg-shlibdeps finds the packages of the libraries the programs link.
+IW_PACKAGING_PACKAGES="dpkg-dev"
 
 iw_missing_packages() {
   local missing=""

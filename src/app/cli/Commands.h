@@ -9,5 +9,7 @@ int RunInfo(const Args& args);
 int RunExtract(const Args& args);
 int RunConvert(const Args& args);
 int RunPack(const Args& args);
+int RunAssociate(const Args& args);
+int RunFolderIcon(const Args& args);
 
 }  // namespace iw::cli

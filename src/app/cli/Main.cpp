@@ -15,6 +15,8 @@ constexpr const char* kUsage =
     "  extract FILE DIR          write every image as DIR/<index>.png\n"
     "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png)\n"
     "  pack OUT IN.png[:BPP[:png]] ...   build an icon set from PNG pictures\n"
+    "  associate [--check] [ico] [cur] [ani]   make Iconwright the default editor\n"
+    "  folder-icon DIR ICON [--index N] [--copy] | DIR --remove   set or remove a folder icon\n"
     "\n"
     "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
 
@@ -36,6 +38,8 @@ int main(int argc, char** argv) {
     if (command == "extract") return RunExtract(args);
     if (command == "convert") return RunConvert(args);
     if (command == "pack") return RunPack(args);
+    if (command == "associate") return RunAssociate(args);
+    if (command == "folder-icon") return RunFolderIcon(args);
     std::cerr << "iconwright-cli: unknown command '" << command << "'\n" << kUsage;
     return kExitUsage;
 }

@@ -23,6 +23,9 @@ inline constexpr std::array<TextId, 5> kDepthNames = {{
     {"True Color", "Constants", "True Color"},
     Alpha,
 }};
+// What the folder icon wizard shows for a folder that has no icon.
+inline constexpr TextId NoFolderIcon{"NoIcon", "frmFolder", "[no icon]"};
+
 inline constexpr TextId CompressedNo{"No", "Constants", "No"};
 inline constexpr TextId CompressedYes{"Yes", "Constants", "Yes"};
 

@@ -1,6 +1,7 @@
 #include "services/desktop/ProgramFolders.h"
 
 #include "services/core/DataFolder.h"
+#include "services/desktop/AppIdentity.h"
 
 namespace iw {
 
@@ -8,7 +9,7 @@ std::filesystem::path ProgramTemplatesFolder(const std::filesystem::path& execut
     std::error_code ec;
     const std::filesystem::path besideBinary = executableFolder / "Templates";
     if (std::filesystem::is_directory(besideBinary, ec)) return besideBinary;
-    return executableFolder.parent_path() / "share" / "iconwright" / "Templates";
+    return (executableFolder / DataFolderFromBin() / "Templates").lexically_normal();
 }
 
 std::filesystem::path UserTemplatesFolder() {

@@ -11,7 +11,8 @@ namespace iw {
 using platform::ExecutableFolder;
 
 // The program's read-only templates: "Templates" beside the executable (a build tree), else
-// the installed data folder "share/iconwright/Templates" next to the executable's "bin".
+// "Templates" in the installed data folder, found from the executable's folder as the
+// install laid them out ("../share/iconwright/Templates" from "bin").
 // When neither exists, the installed path is returned (and the loader reports it missing).
 std::filesystem::path ProgramTemplatesFolder(const std::filesystem::path& executableFolder);
 
