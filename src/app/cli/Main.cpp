@@ -13,7 +13,8 @@ constexpr const char* kUsage =
     "commands:\n"
     "  info [--json] FILE        list the images of an icon, cursor or animated cursor\n"
     "  extract FILE DIR          write every image as DIR/<index>.png\n"
-    "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png)\n"
+    "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png), or a\n"
+    "                            picture to an icon (--template NAME for a whole set)\n"
     "  pack OUT IN.png[:BPP[:png]] ...   build an icon set from PNG pictures\n"
     "\n"
     "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
