@@ -9,5 +9,6 @@ int RunInfo(const Args& args);
 int RunExtract(const Args& args);
 int RunConvert(const Args& args);
 int RunPack(const Args& args);
+int RunFavicon(const Args& args);
 
 }  // namespace iw::cli

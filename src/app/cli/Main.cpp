@@ -16,6 +16,7 @@ constexpr const char* kUsage =
     "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png), or a\n"
     "                            picture to an icon (--template NAME for a whole set)\n"
     "  pack OUT IN.png[:BPP[:png]] ...   build an icon set from PNG pictures\n"
+    "  favicon IN DIR            write DIR/favicon.ico (16, 32, 48 px) and print its markup\n"
     "\n"
     "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
 
@@ -37,6 +38,7 @@ int main(int argc, char** argv) {
     if (command == "extract") return RunExtract(args);
     if (command == "convert") return RunConvert(args);
     if (command == "pack") return RunPack(args);
+    if (command == "favicon") return RunFavicon(args);
     std::cerr << "iconwright-cli: unknown command '" << command << "'\n" << kUsage;
     return kExitUsage;
 }
