@@ -38,16 +38,7 @@ iw::RgbaBuffer PhotoLike(int side) {
 
 std::vector<iw::IconInfo> AllSizesFormats() {
     const auto entries = iw::ReadTemplateFile(IW_TEMPLATES_DIR "/Windows All Sizes.ini");
-    std::vector<iw::IconInfo> formats;
-    for (const iw::TemplateEntry& entry : entries.value_or(std::vector<iw::TemplateEntry>{})) {
-        iw::IconInfo format;
-        format.widthMinus1 = entry.widthMinus1;
-        format.heightMinus1 = entry.heightMinus1;
-        format.bitCount = entry.bits;
-        format.png = entry.compressed;
-        formats.push_back(format);
-    }
-    return formats;
+    return iw::FormatsOf(entries.value_or(std::vector<iw::TemplateEntry>{}));
 }
 
 void BM_ConvertPhoto1024_WindowsAllSizes(benchmark::State& state) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "imaging/OperationProgress.h"
+#include "imaging/Premultiplied.h"
 #include "imaging/Rounding.h"
 #include "services/core/TextCatalog.h"
 
@@ -14,10 +15,6 @@ namespace {
 constexpr int kMaxRadius = 32;
 
 enum class Edge { Repeat, Transparent };
-
-std::uint8_t UnitToByte(float unit) {
-    return static_cast<std::uint8_t>(RoundHalfEven(std::clamp(unit, 0.0f, 1.0f) * 255.0));
-}
 
 // Interleaved float channels of a width x height picture.
 struct FloatPlane {
@@ -86,44 +83,15 @@ void BlurPlane(FloatPlane& plane, int radius, Edge edge, OperationProgress* prog
     BlurPass(plane, kernel, edge, false, progress);
 }
 
-// Premultiplied r, g, b, a in 0..1; inverting pixels are transparent.
-FloatPlane Premultiply(const RgbaBuffer& pixels) {
-    FloatPlane plane{pixels.Width(), pixels.Height(), 4, {}};
-    plane.values.resize(pixels.Pixels().size() * 4);
-    for (int y = 0; y < plane.height; ++y) {
-        for (int x = 0; x < plane.width; ++x) {
-            if (pixels.IsInverse(x, y)) continue;
-            const Rgba p = pixels.At(x, y);
-            const float a = p.a / 255.0f;
-            float* out = plane.At(x, y);
-            out[0] = p.r / 255.0f * a;
-            out[1] = p.g / 255.0f * a;
-            out[2] = p.b / 255.0f * a;
-            out[3] = a;
-        }
-    }
-    return plane;
-}
-
 }  // namespace
 
 void Blur(RgbaBuffer& pixels, int radius, IProgressSink& progress) {
     OperationProgress status(progress, nullptr, pixels.Width());
-    FloatPlane plane = Premultiply(pixels);
+    FloatPlane plane{pixels.Width(), pixels.Height(), 4, PremultiplyPixels(pixels)};
     BlurPlane(plane, radius, Edge::Repeat, &status);
     for (int y = 0; y < plane.height; ++y) {
         for (int x = 0; x < plane.width; ++x) {
-            if (pixels.IsInverse(x, y)) continue;
-            const float* v = plane.At(x, y);
-            Rgba& p = pixels.At(x, y);
-            p.a = UnitToByte(v[3]);
-            if (p.a == 0) {
-                p = {};
-                continue;
-            }
-            p.r = UnitToByte(v[0] / v[3]);
-            p.g = UnitToByte(v[1] / v[3]);
-            p.b = UnitToByte(v[2] / v[3]);
+            if (!pixels.IsInverse(x, y)) pixels.At(x, y) = UnpremultiplyPixel(plane.At(x, y));
         }
     }
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "imaging/Premultiplied.h"
 #include "imaging/Rounding.h"
 
 namespace iw {
@@ -13,30 +14,15 @@ stbir_filter FilterFor(int from, int to) {
     return to < from ? STBIR_FILTER_MITCHELL : STBIR_FILTER_CATMULLROM;
 }
 
-std::uint8_t ToByte(float unit) {
-    return static_cast<std::uint8_t>(RoundHalfEven(std::clamp(unit, 0.0f, 1.0f) * 255.0));
-}
-
 }  // namespace
 
-Resampler::Resampler(const RgbaBuffer& source) : width_(source.Width()), height_(source.Height()) {
-    const auto pixels = source.Pixels();
-    premultiplied_.resize(pixels.size() * 4);
-    if (source.HasInverse()) inverse_.resize(pixels.size(), 0);
-    float* out = premultiplied_.data();
+Resampler::Resampler(const RgbaBuffer& source)
+    : width_(source.Width()), height_(source.Height()), premultiplied_(PremultiplyPixels(source)) {
+    if (!source.HasInverse()) return;
+    inverse_.resize(premultiplied_.size() / 4, 0);
     for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x, out += 4) {
-            if (source.IsInverse(x, y)) {
-                inverse_[static_cast<std::size_t>(y) * width_ + x] = 1;
-                continue;  // no colour, no coverage
-            }
-            const Rgba p = source.At(x, y);
-            const float alpha = p.a / 255.0f;
-            out[0] = p.r / 255.0f * alpha;
-            out[1] = p.g / 255.0f * alpha;
-            out[2] = p.b / 255.0f * alpha;
-            out[3] = alpha;
-        }
+        for (int x = 0; x < width_; ++x)
+            inverse_[static_cast<std::size_t>(y) * width_ + x] = source.IsInverse(x, y) ? 1 : 0;
     }
 }
 
@@ -53,13 +39,7 @@ RgbaBuffer Resampler::Resize(int width, int height) const {
     RgbaBuffer out(width, height);
     const float* in = result.data();
     for (Rgba& p : out.Pixels()) {
-        const float alpha = in[3];
-        p.a = ToByte(alpha);
-        if (p.a != 0) {
-            p.r = ToByte(in[0] / alpha);
-            p.g = ToByte(in[1] / alpha);
-            p.b = ToByte(in[2] / alpha);
-        }
+        p = UnpremultiplyPixel(in);
         in += 4;
     }
     if (!inverse_.empty()) {

@@ -56,14 +56,7 @@ bool TemplateFormats(const std::string& name, CliContext& context, std::vector<I
         std::cerr << "\n";
         return false;
     }
-    for (const TemplateEntry& entry : found->entries) {
-        IconInfo format;
-        format.widthMinus1 = entry.widthMinus1;
-        format.heightMinus1 = entry.heightMinus1;
-        format.bitCount = entry.bits;
-        format.png = entry.compressed;
-        formats.push_back(format);
-    }
+    formats = FormatsOf(found->entries);
     return true;
 }
 

@@ -13,36 +13,6 @@
 #include "services/core/TextCatalog.h"
 
 namespace iw {
-namespace {
-
-// The index of the deepest image of the set that is side x side, or of the largest image
-// when side is 0; -1 when there is none.
-int FindImage(const IconSet& set, int side) {
-    int best = -1;
-    for (int i = 0; i < set.Count(); ++i) {
-        const IconInfo& info = set.Info(i);
-        if (side != 0 && (info.Width() != side || info.Height() != side)) continue;
-        if (best < 0) {
-            best = i;
-            continue;
-        }
-        const IconInfo& b = set.Info(best);
-        const int area = info.Width() * info.Height();
-        const int bestArea = b.Width() * b.Height();
-        if (area > bestArea || (area == bestArea && info.bitCount > b.bitCount)) best = i;
-    }
-    return best;
-}
-
-void ResetSet(IconSet& set) {
-    set.Clear();
-    set.properties = {};
-    set.animation = {};
-    set.mode = FileMode::ICO;
-}
-
-}  // namespace
-
 std::string FaviconMarkup(bool touchIcons) {
     std::string markup(texts::kFaviconMarkup);
     markup += "\n";
@@ -66,17 +36,17 @@ std::vector<std::filesystem::path> FaviconFiles(const std::filesystem::path& fol
 }
 
 RgbaBuffer LargestImagePixels(const IconSet& set) {
-    const int index = FindImage(set, 0);
+    const int index = BestImage(set, 0);
     return index < 0 ? RgbaBuffer() : ReadImageRgba(set.Image(index));
 }
 
 void BuildFaviconSet(const IconSet& source, IconSet& favicon) {
-    ResetSet(favicon);
+    StartPictureSet(favicon);
     const RgbaBuffer largest = LargestImagePixels(source);
     if (largest.Empty()) return;
     const Resampler resampler(largest);
     for (const int side : kFaviconSides) {
-        const int own = FindImage(source, side);
+        const int own = BestImage(source, side);
         if (own >= 0 && source.Info(own).bitCount == 32) {
             favicon.InsertIcon(favicon.Count(), source.Image(own).Clone());
         } else {
@@ -89,7 +59,7 @@ void BuildFaviconSet(const IconSet& source, IconSet& favicon) {
 }
 
 void BuildFaviconSet(const RgbaBuffer& picture, IconSet& favicon) {
-    ResetSet(favicon);
+    StartPictureSet(favicon);
     if (picture.Empty()) return;
     const Resampler resampler(picture);
     for (const int side : kFaviconSides)

@@ -10,10 +10,7 @@ namespace iw {
 
 bool ConvertPicture(const RgbaBuffer& picture, std::span<const IconInfo> formats, IconSet& set,
                     IProgressSink& progress) {
-    set.Clear();
-    set.properties = {};
-    set.animation = {};
-    set.mode = FileMode::ICO;
+    StartPictureSet(set);
     if (picture.Empty() || formats.empty()) return false;
     progress.SetStatus(GetText(texts::ImportingImage));
     const Resampler source(picture);

@@ -3,6 +3,7 @@
 // template.
 
 #include <span>
+#include <vector>
 
 #include "document/model/IconSet.h"
 #include "imaging/RgbaBuffer.h"
@@ -20,5 +21,21 @@ namespace iw {
 // picture or the list of formats is empty.
 bool ConvertPicture(const RgbaBuffer& picture, std::span<const IconInfo> formats, IconSet& set,
                     IProgressSink& progress);
+
+// The formats of a template's entries (anything with widthMinus1, heightMinus1, bits and
+// compressed), for ConvertPicture.
+template <typename Entry>
+std::vector<IconInfo> FormatsOf(const std::vector<Entry>& entries) {
+    std::vector<IconInfo> formats;
+    for (const Entry& entry : entries) {
+        IconInfo format;
+        format.widthMinus1 = entry.widthMinus1;
+        format.heightMinus1 = entry.heightMinus1;
+        format.bitCount = entry.bits;
+        format.png = entry.compressed;
+        formats.push_back(format);
+    }
+    return formats;
+}
 
 }  // namespace iw

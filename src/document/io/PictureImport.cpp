@@ -7,6 +7,13 @@
 
 namespace iw {
 
+void StartPictureSet(IconSet& set) {
+    set.Clear();
+    set.properties = {};
+    set.animation = {};
+    set.mode = FileMode::ICO;
+}
+
 int AddRgbaImage(IconSet& set, const RgbaBuffer& pixels, int bitCount, bool png) {
     const int width = pixels.Width();
     const int height = pixels.Height();
@@ -34,6 +41,23 @@ int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool p
             pixels.At(x, y) = {bgra[2], bgra[1], bgra[0], bgra[3]};
     }
     return AddRgbaImage(set, pixels, bitCount, png);
+}
+
+int BestImage(const IconSet& set, int side) {
+    int best = -1;
+    for (int i = 0; i < set.Count(); ++i) {
+        const IconInfo& info = set.Info(i);
+        if (side != 0 && (info.Width() != side || info.Height() != side)) continue;
+        if (best < 0) {
+            best = i;
+            continue;
+        }
+        const IconInfo& b = set.Info(best);
+        const int area = info.Width() * info.Height();
+        const int bestArea = b.Width() * b.Height();
+        if (area > bestArea || (area == bestArea && info.bitCount > b.bitCount)) best = i;
+    }
+    return best;
 }
 
 bool ConfirmLargeImport(const RgbaBuffer& picture, MessageService& messages) {

@@ -9,6 +9,10 @@
 
 namespace iw {
 
+// Empties `set` for a set made from pictures: no images, no properties or animation
+// data, mode ICO.
+void StartPictureSet(IconSet& set);
+
 // Adds `pixels` (at most 256 x 256) as a new image of `bitCount` bits, stored
 // PNG-compressed when `png` is set, through the depth rules of WriteImageRgba: below 32
 // bits a pixel with alpha below 128 becomes `TransparentColor`, 4-bit colours go through
@@ -18,6 +22,10 @@ namespace iw {
 int AddRgbaImage(IconSet& set, const RgbaBuffer& pixels, int bitCount, bool png);
 // The same for a 32-bit picture object.
 int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool png);
+
+// The image an icon set stands for as a picture: the deepest of its largest images, or
+// with `side` the deepest of its side x side images; -1 when there is none.
+int BestImage(const IconSet& set, int side = 0);
 
 // Pictures above this on either side make the import ask first.
 inline constexpr int kLargeImportSide = 500;

@@ -9,6 +9,7 @@
 #include "codec/png/PngCodec.h"
 #include "codec/png/PngPixels.h"
 #include "document/io/IconFileReader.h"
+#include "document/io/PictureImport.h"
 #include "document/io/PsdReader.h"
 #include "imaging/ImageRgbaPixels.h"
 #include "platform/FileStreams.h"
@@ -58,14 +59,7 @@ PictureDecodeStatus DecodeIcon(std::span<const std::uint8_t> bytes, const Decode
     NullProgress progress;
     if (!ReadIconData(bytes, "picture.ico", set, progress).Ok())
         return PictureDecodeStatus::Corrupt;
-    int best = 0;
-    for (int i = 1; i < set.Count(); ++i) {
-        const IconInfo& a = set.Info(i);
-        const IconInfo& b = set.Info(best);
-        const int areaA = a.Width() * a.Height();
-        const int areaB = b.Width() * b.Height();
-        if (areaA > areaB || (areaA == areaB && a.bitCount > b.bitCount)) best = i;
-    }
+    const int best = BestImage(set);
     const RgbaBuffer pixels = ReadImageRgba(set.Image(best));
     if (!FitsLimits(static_cast<std::uint64_t>(pixels.Width()),
                     static_cast<std::uint64_t>(pixels.Height()), limits)) {
