@@ -1,5 +1,5 @@
 // The favicon: kept and resampled images, the wizard's save with its question and
-// messages, the PNG icons beside it and the markup.
+// messages, and the PNG icons beside it.
 
 #include <gtest/gtest.h>
 
@@ -81,15 +81,6 @@ TEST(Favicon, SaveAsksBeforeReplacingAndTellsTheOutcome) {
     EXPECT_EQ(SaveFavicon(f.dir / "no" / "such", set, false, f.context), FaviconSaveResult::Failed);
     EXPECT_EQ(f.messages.presenter.shown.back().text, "Your icon was not saved.");
     EXPECT_EQ(f.messages.presenter.shown.back().type, MessageType::Critical);
-}
-
-TEST(Favicon, MarkupLines) {
-    EXPECT_EQ(FaviconMarkup(false), "<link rel=\"shortcut icon\" href=\"/favicon.ico\"/>\n");
-    const std::string all = FaviconMarkup(true);
-    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 4);
-    EXPECT_NE(all.find("<link rel=\"apple-touch-icon\" href=\"/apple-touch-icon.png\">\n"),
-              std::string::npos);
-    EXPECT_EQ(FaviconFiles("site", true).back(), std::filesystem::path("site") / "icon-512.png");
 }
 
 }  // namespace

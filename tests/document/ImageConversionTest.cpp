@@ -1,11 +1,8 @@
-// "Convert an Image": sizes, padding and depths of the converted set, which saves and
-// reads back.
+// "Convert an Image": sizes, padding and depths of the converted set.
 
 #include <gtest/gtest.h>
 
 #include "PictureTestHelpers.h"
-#include "document/io/IconFileReader.h"
-#include "document/io/IconFileWriter.h"
 #include "document/io/ImageConversion.h"
 
 namespace iw {
@@ -51,14 +48,6 @@ TEST(ConvertPicture, EveryFormatIsTheFittedPictureAtItsDepth) {
         EXPECT_EQ(image.Color(e.side - 1, e.side - top), TransparentColor) << e.side;
         EXPECT_EQ(image.Alpha(e.side / 2, top), e.bits == 32 ? 255 : 0);
     }
-    // The set saves and reads back as it is.
-    const std::string path = (f.dir / "converted.ico").string();
-    ASSERT_TRUE(WriteIconFile(path, set, f.context));
-    IconSet back;
-    ASSERT_TRUE(ReadIconFile(path, back, f.context));
-    EXPECT_EQ(back.Count(), 5);
-    EXPECT_EQ(back.Image(3).Color(8, 8), PackColor(255, 0, 0));
-
     EXPECT_FALSE(ConvertPicture(RgbaBuffer(), formats, set, f.progress));
     EXPECT_TRUE(set.Empty());
 }

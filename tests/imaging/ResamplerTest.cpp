@@ -1,5 +1,5 @@
 // The resampler: premultiplied filtering (no dark fringe at transparent edges), flat
-// colours kept exactly, fitting inside a canvas, and inverting pixels.
+// colours kept exactly, the fitted sizes, and inverting pixels.
 
 #include <gtest/gtest.h>
 
@@ -50,21 +50,6 @@ TEST(Resampler, SameSizeIsTheSamePicture) {
     EXPECT_EQ(Resample(source, 9, 5), source);
 }
 
-TEST(Resampler, ShrinkingAveragesWhatItCovers) {
-    // Black and white columns, 1 px each, shrunk eight times: mid grey away from the ends
-    // (where the repeated border column tips the balance).
-    const RgbaBuffer stripes = test::MakeBuffer(128, 8, [](int x, int) {
-        const auto v = static_cast<std::uint8_t>(x % 2 ? 255 : 0);
-        return Rgba{v, v, v, 255};
-    });
-    const RgbaBuffer out = Resample(stripes, 16, 1);
-    for (int x = 1; x < 15; ++x) {
-        const Rgba p = out.At(x, 0);
-        EXPECT_NEAR(p.r, 128, 3) << x;
-        EXPECT_EQ(p.a, 255);
-    }
-}
-
 TEST(Resampler, FitSizeKeepsTheAspect) {
     struct Case {
         int w, h, maxW, maxH;
@@ -78,19 +63,6 @@ TEST(Resampler, FitSizeKeepsTheAspect) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(FitSize(c.w, c.h, c.maxW, c.maxH, c.enlarge), c.expected) << c.w << "x" << c.h;
-}
-
-TEST(Resampler, FitInsideCentresOnTransparent) {
-    const RgbaBuffer wide = test::MakeBuffer(40, 20, [](int, int) { return Rgba{9, 8, 7, 255}; });
-    const RgbaBuffer out = Resampler(wide).FitInside(16, 16, true);
-    ASSERT_EQ(out.Width(), 16);
-    for (int y = 0; y < 16; ++y) {
-        const bool inside = y >= 4 && y < 12;
-        EXPECT_EQ(out.At(5, y), inside ? (Rgba{9, 8, 7, 255}) : Rgba{}) << y;
-    }
-    // Without enlarging, a small picture is only centred.
-    const RgbaBuffer small = Resampler(test::Distinct(4, 2)).FitInside(8, 8, false);
-    EXPECT_EQ(small.At(2, 3), test::Distinct(4, 2).At(0, 0));
 }
 
 TEST(Resampler, InvertingPixelsFollowTheNearestSourcePixel) {
