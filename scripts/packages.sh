@@ -1,7 +1,7 @@
 # Sourced by the scripts: installs the Debian packages the project needs, quietly and only
 # when some are missing. Safe to run again and again.
 
-IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev"
+IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev libstb-dev qt6-base-dev"
 IW_TEST_PACKAGES="googletest libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev
   clang libclang-rt-dev python3 python3-pil imagemagick icoutils optipng
   desktop-file-utils appstream groff-base"

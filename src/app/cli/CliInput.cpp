@@ -4,10 +4,13 @@
 #include <fstream>
 #include <iostream>
 
+#include "app/shared/QtPictureDecoder.h"
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "document/io/PictureImport.h"
+#include "document/io/PictureLoading.h"
+#include "imaging/Resampler.h"
 #include "services/core/AtomicFile.h"
 
 namespace iw::cli {
@@ -54,17 +57,42 @@ bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stre
     return true;
 }
 
+PictureFormat PictureFormatOfFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::vector<std::uint8_t> head(64);
+    in.read(reinterpret_cast<char*>(head.data()), static_cast<std::streamsize>(head.size()));
+    head.resize(static_cast<std::size_t>(in.gcount()));
+    return DetectPictureFormat(head);
+}
+
+bool IsPictureFile(const std::string& path) {
+    const PictureFormat format = PictureFormatOfFile(path);
+    return format != PictureFormat::Unknown && format != PictureFormat::Ico;
+}
+
+bool LoadPictureInput(const std::string& path, RgbaBuffer& picture, CliContext& context) {
+    app::QtPictureDecoder decoder;
+    PictureLoadOptions options;
+    options.decoder = &decoder;
+    // The core has told the user why (on stderr) when it returns anything but Ok.
+    return LoadPictureFile(path, options, context.Core().messages, picture) ==
+           PictureLoadStatus::Ok;
+}
+
 bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context) {
-    if (!StartsWithPngSignature(path)) return ReadIconFile(path, set, context.Core());
-    c32bppDIB picture;
-    if (!LoadPicture(path, picture)) return false;
-    set.Clear();
-    if (AddPictureImage(set, picture, 32, false) < 0) {
+    if (!IsPictureFile(path)) return ReadIconFile(path, set, context.Core());
+    RgbaBuffer picture;
+    if (!LoadPictureInput(path, picture, context)) return false;
+    if (picture.Width() > IconSet::kMaxSide || picture.Height() > IconSet::kMaxSide) {
+        const PixelSize size =
+            FitSize(picture.Width(), picture.Height(), IconSet::kMaxSide, IconSet::kMaxSide, false);
         std::cerr << "iconwright-cli: " << path << ": the picture is " << picture.Width() << " x "
-                  << picture.Height() << "; icon images are at most 256 x 256\n";
-        return false;
+                  << picture.Height() << "; resampled to " << size.width << " x " << size.height
+                  << " to fit an icon image (at most 256 x 256)\n";
+        picture = Resample(picture, size.width, size.height);
     }
-    return true;
+    set.Clear();
+    return AddRgbaImage(set, picture, 32, false) >= 0;
 }
 
 bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
@@ -100,6 +128,8 @@ bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
         options.name = value;
     } else if (option == "--artist") {
         options.artist = value;
+    } else if (option == "--template") {
+        options.templateName = value;
     } else if (option == "--sequence") {
         std::vector<int> frames;
         std::size_t at = 0;

@@ -8,7 +8,9 @@
 
 #include "CliSupport.h"
 #include "codec/png/c32bppDIB.h"
+#include "document/io/PictureDecoder.h"
 #include "document/model/IconSet.h"
+#include "imaging/RgbaBuffer.h"
 
 namespace iw::cli {
 
@@ -20,7 +22,17 @@ bool LoadPicture(const std::string& path, c32bppDIB& picture);
 // Writes a PNG stream as the whole of `file`; prints the reason on failure.
 bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream);
 
-// An icon, cursor or animated cursor, or a PNG picture as one 32-bit image.
+// The picture format by the file's first bytes (Unknown when it cannot be read).
+PictureFormat PictureFormatOfFile(const std::string& path);
+// True for pictures (PNG, JPEG, GIF, BMP, Photoshop, ...), false for icons and the rest.
+bool IsPictureFile(const std::string& path);
+
+// Any picture the program reads (an icon file gives its largest image), through the core
+// and Qt's readers; prints the reason on failure.
+bool LoadPictureInput(const std::string& path, RgbaBuffer& picture, CliContext& context);
+
+// An icon, cursor or animated cursor, or a picture as one 32-bit image. A picture larger
+// than 256 x 256 is resampled to fit inside 256 x 256 with its aspect kept (and says so).
 bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context);
 
 // The options that shape an output file.
@@ -31,6 +43,7 @@ struct OutputOptions {
     std::optional<std::string> name;             // .ani
     std::optional<std::string> artist;           // .ani
     std::optional<std::vector<int>> sequence;    // .ani
+    std::optional<std::string> templateName;     // convert: the template's formats
 };
 
 // Takes the option at args[i] (and its value); returns false with `error` set when the

@@ -4,16 +4,24 @@
 
 #include "CliInput.h"
 #include "Commands.h"
+#include "document/io/ImageConversion.h"
+#include "services/desktop/ProgramFolders.h"
+#include "services/desktop/TemplateLibrary.h"
 
 namespace iw::cli {
 namespace {
 
 constexpr std::string_view kUsage =
-    "iconwright-cli convert IN OUT [--index N] [--hotspot X,Y] [--rate JIFFIES] [--name TEXT]\n"
-    "                       [--artist TEXT] [--sequence 0,1,2,...]";
+    "iconwright-cli convert IN OUT [--template NAME] [--index N] [--hotspot X,Y]\n"
+    "                       [--rate JIFFIES] [--name TEXT] [--artist TEXT] [--sequence 0,1,2,...]";
 constexpr std::string_view kHelp =
-    "Reads an icon, cursor or animated cursor (or a PNG picture as one 32-bit image) and\n"
-    "writes OUT by its extension:\n"
+    "Reads an icon, cursor or animated cursor, or a picture (PNG, JPEG, GIF, BMP, Photoshop),\n"
+    "and writes OUT by its extension. A picture becomes one 32-bit image; one larger than\n"
+    "256 x 256 is resampled to fit inside 256 x 256 with its aspect kept.\n"
+    "  --template NAME   make a whole icon set from the picture (an icon gives its largest\n"
+    "                    image) with the formats of the template NAME, one of the program's\n"
+    "                    own or the user's: each size resampled from the picture, fitted\n"
+    "                    and centred on transparency, at the template's depths\n"
     "  .ico   every image\n"
     "  .cur   one image (--index N, default 0) with the set's hotspot or --hotspot X,Y\n"
     "  .ani   every image as a frame; --rate, --name, --artist and --sequence set the\n"
@@ -27,12 +35,46 @@ bool IsPngPath(const std::string& path) {
                                path.compare(path.size() - 4, 4, ".PNG") == 0);
 }
 
-int ConvertPicture(const std::string& in, const std::string& out) {
+int ReencodePng(const std::string& in, const std::string& out) {
     c32bppDIB picture;
     if (!LoadPicture(in, picture)) return kExitFailed;
     std::vector<std::uint8_t> stream;
     picture.SaveToStream_PNG(stream);
     return WritePngFile(out, stream) ? kExitOk : kExitFailed;
+}
+
+// The formats of the template called `name`, or a message and false.
+bool TemplateFormats(const std::string& name, CliContext& context, std::vector<IconInfo>& formats) {
+    TemplateLibrary library;
+    library.LoadAll(ProgramTemplatesFolder(ExecutableFolder()), UserTemplatesFolder(),
+                    context.Core().messages);
+    const IconTemplate* found = library.Find(name);
+    if (!found) {
+        std::cerr << "iconwright-cli: no template is called '" << name << "'; the templates are:";
+        for (const IconTemplate& t : library.Templates())
+            std::cerr << "\n  " << t.name;
+        std::cerr << "\n";
+        return false;
+    }
+    formats = FormatsOf(found->entries);
+    return true;
+}
+
+int ConvertWithTemplate(const std::string& in, const std::string& out,
+                        const OutputOptions& options) {
+    CliContext context;
+    std::vector<IconInfo> formats;
+    if (!TemplateFormats(*options.templateName, context, formats)) return kExitUsage;
+    RgbaBuffer picture;
+    if (!LoadPictureInput(in, picture, context)) return kExitFailed;
+    IconSet set;
+    NullProgress progress;
+    if (!ConvertPicture(picture, formats, set, progress)) {
+        std::cerr << "iconwright-cli: " << in << ": nothing to convert\n";
+        return kExitFailed;
+    }
+    set.mode = FileModeFromPath(out);
+    return WriteOutputSet(out, set, options, context) ? kExitOk : kExitFailed;
 }
 
 }  // namespace
@@ -50,11 +92,16 @@ int RunConvert(const Args& args) {
     if (files.size() != 2) return UsageError("convert takes IN and OUT", kUsage);
     const std::string& in = files[0];
     const std::string& out = files[1];
+    if (options.templateName) {
+        if (OutputKind(out).empty())
+            return UsageError("OUT must end in .ico, .cur or .ani", kUsage);
+        return ConvertWithTemplate(in, out, options);
+    }
     if (IsPngPath(out)) {
         if (!StartsWithPngSignature(in)) {
             return UsageError("a .png output needs a PNG input (use extract for icons)", kUsage);
         }
-        return ConvertPicture(in, out);
+        return ReencodePng(in, out);
     }
     if (OutputKind(out).empty())
         return UsageError("OUT must end in .ico, .cur, .ani or .png", kUsage);

@@ -5,8 +5,7 @@
 
 #include "CliInput.h"
 #include "Commands.h"
-#include "codec/png/PngCodec.h"
-#include "document/io/ImageRgba.h"
+#include "document/io/PngExport.h"
 
 namespace iw::cli {
 namespace {
@@ -49,13 +48,10 @@ int RunExtract(const Args& args) {
     CliContext context;
     IconSet set;
     if (!LoadInputSet(files[0], set, context)) return kExitFailed;
-    for (int i = 0; i < set.Count(); ++i) {
-        const IconImage& image = set.Image(i);
-        std::vector<std::uint8_t> stream;
-        EncodePngStream(image.info.Width(), image.info.Height(), ImageToRgba(image), stream);
-        if (!WritePngFile((dir / (std::to_string(i) + ".png")).string(), stream)) {
-            return kExitFailed;
-        }
+    const ExportResult result = ExportImagesPng(set, dir);
+    if (!result.Ok()) {
+        std::cerr << "iconwright-cli: " << result.failed.string() << ": could not be written\n";
+        return kExitFailed;
     }
     return kExitOk;
 }

@@ -66,6 +66,7 @@ int RunPack(const Args& args) {
         std::cout << "usage: " << kUsage << "\n\n" << kHelp;
         return kExitOk;
     }
+    if (options.templateName) return UsageError("--template belongs to convert", kUsage);
     const std::string out = plain.empty() ? std::string() : plain.front();
     std::vector<PackItem> items;
     for (std::size_t i = 1; i < plain.size(); ++i) {

@@ -11,5 +11,6 @@ int RunConvert(const Args& args);
 int RunPack(const Args& args);
 int RunAssociate(const Args& args);
 int RunFolderIcon(const Args& args);
+int RunFavicon(const Args& args);
 
 }  // namespace iw::cli

@@ -13,10 +13,12 @@ constexpr const char* kUsage =
     "commands:\n"
     "  info [--json] FILE        list the images of an icon, cursor or animated cursor\n"
     "  extract FILE DIR          write every image as DIR/<index>.png\n"
-    "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png)\n"
+    "  convert IN OUT            convert between .ico, .cur, .ani (and .png to .png), or a\n"
+    "                            picture to an icon (--template NAME for a whole set)\n"
     "  pack OUT IN.png[:BPP[:png]] ...   build an icon set from PNG pictures\n"
     "  associate [--check] [ico] [cur] [ani]   make Iconwright the default editor\n"
     "  folder-icon DIR ICON [--index N] [--copy] | DIR --remove   set or remove a folder icon\n"
+    "  favicon IN DIR            write DIR/favicon.ico (16, 32, 48 px) and print its markup\n"
     "\n"
     "Run 'iconwright-cli COMMAND --help' for a command's options.\n";
 
@@ -40,6 +42,7 @@ int main(int argc, char** argv) {
     if (command == "pack") return RunPack(args);
     if (command == "associate") return RunAssociate(args);
     if (command == "folder-icon") return RunFolderIcon(args);
+    if (command == "favicon") return RunFavicon(args);
     std::cerr << "iconwright-cli: unknown command '" << command << "'\n" << kUsage;
     return kExitUsage;
 }

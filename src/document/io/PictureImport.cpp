@@ -1,13 +1,22 @@
 #include "document/io/PictureImport.h"
 
 #include "document/io/IcoLayout.h"
-#include "imaging/ColorMapping.h"
+#include "imaging/ImageRgbaPixels.h"
+#include "imaging/Resampler.h"
+#include "services/core/TextCatalog.h"
 
 namespace iw {
 
-int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool png) {
-    const int width = picture.Width();
-    const int height = picture.Height();
+void StartPictureSet(IconSet& set) {
+    set.Clear();
+    set.properties = {};
+    set.animation = {};
+    set.mode = FileMode::ICO;
+}
+
+int AddRgbaImage(IconSet& set, const RgbaBuffer& pixels, int bitCount, bool png) {
+    const int width = pixels.Width();
+    const int height = pixels.Height();
     if (width < 1 || height < 1 || width > IconSet::kMaxSide || height > IconSet::kMaxSide ||
         !ico::IsSupportedBitCount(bitCount)) {
         return -1;
@@ -16,24 +25,53 @@ int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool p
     if (index < 0) return -1;
     IconImage& image = set.Image(index);
     image.info.png = png ? 1 : 0;
-    for (int y = 0; y < height; ++y) {
-        const std::uint8_t* bgra = picture.TopDownRow(y);
-        for (int x = 0; x < width; ++x, bgra += 4) {
-            PackedColor color = PackColor(bgra[2], bgra[1], bgra[0]);
-            const int alpha = bgra[3];
-            if (bitCount == 32) {
-                image.Alpha(x, y) = alpha;
-            } else if (alpha < 128) {
-                color = TransparentColor;
-            } else if (bitCount == 4) {
-                color = ConvertTo16Color(color);
-            } else if (bitCount == 1) {
-                color = ConvertToMonoColor(color);
-            }
-            image.Color(x, y) = color;
-        }
-    }
+    WriteImageRgba(image, 0, 0, pixels);
     return index;
+}
+
+int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool png) {
+    if (picture.Width() < 1 || picture.Height() < 1 || picture.Width() > IconSet::kMaxSide ||
+        picture.Height() > IconSet::kMaxSide) {
+        return -1;
+    }
+    RgbaBuffer pixels(picture.Width(), picture.Height());
+    for (int y = 0; y < pixels.Height(); ++y) {
+        const std::uint8_t* bgra = picture.TopDownRow(y);
+        for (int x = 0; x < pixels.Width(); ++x, bgra += 4)
+            pixels.At(x, y) = {bgra[2], bgra[1], bgra[0], bgra[3]};
+    }
+    return AddRgbaImage(set, pixels, bitCount, png);
+}
+
+int BestImage(const IconSet& set, int side) {
+    int best = -1;
+    for (int i = 0; i < set.Count(); ++i) {
+        const IconInfo& info = set.Info(i);
+        if (side != 0 && (info.Width() != side || info.Height() != side)) continue;
+        if (best < 0) {
+            best = i;
+            continue;
+        }
+        const IconInfo& b = set.Info(best);
+        const int area = info.Width() * info.Height();
+        const int bestArea = b.Width() * b.Height();
+        if (area > bestArea || (area == bestArea && info.bitCount > b.bitCount)) best = i;
+    }
+    return best;
+}
+
+bool ConfirmLargeImport(const RgbaBuffer& picture, MessageService& messages) {
+    if (picture.Width() <= kLargeImportSide && picture.Height() <= kLargeImportSide) return true;
+    return messages.Show(texts::ImportPicture, MessageType::Exclamation, MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
+
+void ImportPictureInto(IconImage& image, const RgbaBuffer& picture, IProgressSink& progress) {
+    progress.SetStatus(GetText(texts::ImportingImage));
+    progress.Yield();
+    WriteImageRgba(image, 0, 0,
+                   Resampler(picture).FitInside(PlaneWidth(image), PlaneHeight(image), false));
+    progress.SetStatus("");
 }
 
 }  // namespace iw
