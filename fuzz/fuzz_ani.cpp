@@ -1,15 +1,24 @@
 // The animated cursor reader on arbitrary bytes: the frames the salvage reader finds, then
-// the RIFF chunks (name, artist, rates, sequence, hotspot).
+// the RIFF chunks (name, artist, rates, sequence, hotspot). Whatever reads is written again
+// as an icon, a cursor and an animated cursor, in memory, and must read back.
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <span>
 
 #include "document/io/IconFileReader.h"
+#include "support/WriteReadBack.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     iw::IconSet set;
     iw::NullProgress progress;
-    iw::ReadIconData(std::span(data, size), "f.ani", set, progress);
+    if (!iw::ReadIconData(std::span(data, size), "f.ani", set, progress).Ok()) return 0;
+    const std::string problem = iw::test::CheckWriteAndReadBack(set);
+    if (!problem.empty()) {
+        std::fprintf(stderr, "%s\n", problem.c_str());
+        std::abort();
+    }
     return 0;
 }

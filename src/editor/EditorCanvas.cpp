@@ -126,7 +126,7 @@ CanvasUpdate Editor::PaintAt(Point cell, bool first) {
         if (tool == tools::Ellipse) points = EllipsePoints(drag_->anchor, cell, state_.ShapeFilled);
         PlotPoints(image, points, color, alpha);
     }
-    image.originalPng.clear();
+    image.DropOriginalPng();
     update.imageChanged = true;
     return update;
 }

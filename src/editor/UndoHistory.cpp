@@ -46,7 +46,7 @@ bool UndoHistory::Undo(IconImage& current) {
     redoIds_[0] = stateId_;
 
     CopyCorner(undo_[0], current, width, height);
-    current.originalPng.clear();
+    current.DropOriginalPng();
     stateId_ = undoIds_[0];
     // One level up: level i receives level i + 1.
     std::rotate(undo_.begin(), undo_.begin() + 1, undo_.end());
@@ -60,7 +60,7 @@ bool UndoHistory::Repeat(IconImage& current) {
     if (redoCount_ < 0) return false;
     AddUndo(current);
     CopyCorner(redo_[0], current, ImageWidth(current), ImageHeight(current));
-    current.originalPng.clear();
+    current.DropOriginalPng();
     stateId_ = redoIds_[0];
     std::rotate(redo_.begin(), redo_.begin() + 1, redo_.end());
     std::rotate(redoIds_.begin(), redoIds_.begin() + 1, redoIds_.end());

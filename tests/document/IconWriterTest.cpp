@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 #include <csignal>
 
+#include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "imaging/StandardColors.h"
@@ -189,6 +190,33 @@ TEST(IconWriter, FailedSaveLeavesTheOldFileByteForByte) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(f.dir.Path()),
                             std::filesystem::directory_iterator()),
               1);
+}
+
+// Fields no file can hold are refused with a failure, never trusted: nothing is written.
+TEST(Writers, RefuseImagesTheyCannotWrite) {
+    struct Bad {
+        int widthMinus1, heightMinus1, bitCount;
+    };
+    const Bad bad[] = {{15, 15, 0},  {15, 15, 2},  {15, 15, 7},   {15, 15, 16}, {15, 15, -8},
+                       {15, 15, 64}, {-1, 15, 32}, {15, 256, 32}, {300, 15, 8}};
+    for (const Bad& b : bad) {
+        SCOPED_TRACE(::testing::Message()
+                     << b.widthMinus1 << " " << b.heightMinus1 << " " << b.bitCount);
+        for (int png : {0, 1}) {
+            WriteFixture f;
+            IconSet set;
+            set.AddIcon(15, 15, 32);
+            set.AddIcon(b.widthMinus1, b.heightMinus1, b.bitCount);
+            set.Info(1).png = static_cast<std::int16_t>(png);
+            const auto path = f.dir / "keep.ico";
+            test::WriteFileBytes(path, {1, 2, 3});
+            EXPECT_FALSE(WriteIconFile(path.string(), set, f.context));
+            EXPECT_FALSE(WriteCursorFile(path.string(), set, 1, 0, 0, f.context));
+            EXPECT_FALSE(WriteAnimatedCursor(path.string(), set, f.context));
+            EXPECT_EQ(test::ReadFileBytes(path), (test::Bytes{1, 2, 3}));
+            EXPECT_TRUE(BuildCursorFile(set, 0, 0, 0, f.context));  // the good image still can
+        }
+    }
 }
 
 TEST(CursorWriter, OneImageAtOffset22WithHotspotAndColourCountZero) {

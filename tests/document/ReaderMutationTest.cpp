@@ -1,12 +1,15 @@
 // Every single-byte change and every truncation of a few valid files must give a clean
-// result: either a failure or a set whose every field is in range. AddressSanitizer turns
+// result: either a failure, or a set whose every field is in range and that writes again
+// as an icon, a cursor and an animated cursor which all read back. AddressSanitizer turns
 // any read outside the data into a failure of this test.
 
 #include <gtest/gtest.h>
 
+#include "codec/PngCodec.h"
 #include "document/io/IconFileReader.h"
 #include "support/IcoBuilder.h"
 #include "support/TestSupport.h"
+#include "support/WriteReadBack.h"
 
 namespace iw {
 namespace {
@@ -29,6 +32,14 @@ Bytes SmallMixedIcon() {
         spec.masked = [](int x, int y) { return (x + y) % 4 == 0; };
         entries.push_back(BitmapEntry(spec));
     }
+    // And a PNG entry, decoded only when the write looks at its pixels.
+    test::EntrySpec png;
+    std::vector<std::uint8_t> rgba(6 * 6 * 4);
+    for (std::size_t i = 0; i < rgba.size(); ++i)
+        rgba[i] = static_cast<std::uint8_t>(i * 37);
+    EncodePngStream(6, 6, rgba, png.data);
+    png.width = png.height = 6;
+    entries.push_back(png);
     return test::BuildIconFile(entries);
 }
 
@@ -48,7 +59,9 @@ void ExpectClean(std::span<const std::uint8_t> bytes, const std::string& name) {
         ASSERT_LE(info.Width(), 256);
         ASSERT_GE(info.Height(), 1);
         ASSERT_LE(info.Height(), 256);
+        ASSERT_TRUE(CanWriteImage(info)) << "image " << i << " bit count " << info.bitCount;
     }
+    ASSERT_EQ(test::CheckWriteAndReadBack(set), "");
 }
 
 void MutateEveryByte(const Bytes& original, const std::string& name) {
