@@ -30,20 +30,20 @@ std::string Lower(std::string text) {
     return text;
 }
 
-}  // namespace
-
 bool StartsWithPngSignature(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     char head[8] = {};
     return in.read(head, 8) && std::memcmp(head, "\x89PNG\r\n\x1a\n", 8) == 0;
 }
 
-bool LoadPicture(const std::string& path, c32bppDIB& picture) {
-    if (!picture.LoadPicture_File(path)) {
-        std::cerr << "iconwright-cli: " << path << ": not a PNG picture that can be read\n";
-        return false;
-    }
-    return true;
+}  // namespace
+
+InputKind ReadInput(const std::string& path, c32bppDIB& picture, IconSet& set,
+                    CliContext& context) {
+    if (StartsWithPngSignature(path) && picture.LoadPicture_File(path)) return InputKind::Picture;
+    // Anything else goes to the icon reader, which tells the user what is wrong with a
+    // file it cannot read, exactly as for the info command.
+    return ReadIconFile(path, set, context.Core()) ? InputKind::IconSet : InputKind::Unreadable;
 }
 
 bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream) {
@@ -54,17 +54,26 @@ bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stre
     return true;
 }
 
+bool AddInputPicture(const std::string& path, const c32bppDIB& picture, IconSet& set, int bitCount,
+                     bool png) {
+    if (AddPictureImage(set, picture, bitCount, png) >= 0) return true;
+    std::cerr << "iconwright-cli: " << path << ": the picture is " << picture.Width() << " x "
+              << picture.Height() << "; icon images are at most 256 x 256\n";
+    return false;
+}
+
 bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context) {
-    if (!StartsWithPngSignature(path)) return ReadIconFile(path, set, context.Core());
     c32bppDIB picture;
-    if (!LoadPicture(path, picture)) return false;
-    set.Clear();
-    if (AddPictureImage(set, picture, 32, false) < 0) {
-        std::cerr << "iconwright-cli: " << path << ": the picture is " << picture.Width() << " x "
-                  << picture.Height() << "; icon images are at most 256 x 256\n";
-        return false;
+    switch (ReadInput(path, picture, set, context)) {
+        case InputKind::IconSet:
+            return true;
+        case InputKind::Picture:
+            set.Clear();
+            return AddInputPicture(path, picture, set, 32, false);
+        case InputKind::Unreadable:
+            break;
     }
-    return true;
+    return false;
 }
 
 bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,

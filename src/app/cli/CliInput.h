@@ -12,10 +12,17 @@
 
 namespace iw::cli {
 
-bool StartsWithPngSignature(const std::string& path);
+enum class InputKind { Picture, IconSet, Unreadable };
 
-// A PNG picture (any size) through our codec; prints the reason on failure.
-bool LoadPicture(const std::string& path, c32bppDIB& picture);
+// Reads an input file as the program does: a PNG picture (any size) when the file starts
+// with the PNG signature and decodes, otherwise an icon, cursor or animated cursor through
+// the icon reader. When neither works the reader has told the user why, with the same
+// message the info command gives (a renamed picture, or a corrupt file).
+InputKind ReadInput(const std::string& path, c32bppDIB& picture, IconSet& set, CliContext& context);
+
+// Adds `picture` to `set` at `bitCount` bits; prints the reason when it is too large.
+bool AddInputPicture(const std::string& path, const c32bppDIB& picture, IconSet& set, int bitCount,
+                     bool png);
 
 // Writes a PNG stream as the whole of `file`; prints the reason on failure.
 bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream);

@@ -28,8 +28,17 @@ bool IsPngPath(const std::string& path) {
 }
 
 int ConvertPicture(const std::string& in, const std::string& out) {
+    CliContext context;
     c32bppDIB picture;
-    if (!LoadPicture(in, picture)) return kExitFailed;
+    IconSet set;
+    switch (ReadInput(in, picture, set, context)) {
+        case InputKind::Picture:
+            break;
+        case InputKind::IconSet:
+            return UsageError("a .png output needs a PNG input (use extract for icons)", kUsage);
+        case InputKind::Unreadable:
+            return kExitFailed;
+    }
     std::vector<std::uint8_t> stream;
     picture.SaveToStream_PNG(stream);
     return WritePngFile(out, stream) ? kExitOk : kExitFailed;
@@ -50,12 +59,7 @@ int RunConvert(const Args& args) {
     if (files.size() != 2) return UsageError("convert takes IN and OUT", kUsage);
     const std::string& in = files[0];
     const std::string& out = files[1];
-    if (IsPngPath(out)) {
-        if (!StartsWithPngSignature(in)) {
-            return UsageError("a .png output needs a PNG input (use extract for icons)", kUsage);
-        }
-        return ConvertPicture(in, out);
-    }
+    if (IsPngPath(out)) return ConvertPicture(in, out);
     if (OutputKind(out).empty())
         return UsageError("OUT must end in .ico, .cur, .ani or .png", kUsage);
 

@@ -39,16 +39,20 @@ int RunExtract(const Args& args) {
         return kExitFailed;
     }
 
-    if (StartsWithPngSignature(files[0])) {
-        c32bppDIB picture;
-        std::vector<std::uint8_t> stream;
-        if (!LoadPicture(files[0], picture)) return kExitFailed;
-        picture.SaveToStream_PNG(stream);
-        return WritePngFile((dir / "0.png").string(), stream) ? kExitOk : kExitFailed;
-    }
     CliContext context;
+    c32bppDIB picture;
     IconSet set;
-    if (!LoadInputSet(files[0], set, context)) return kExitFailed;
+    switch (ReadInput(files[0], picture, set, context)) {
+        case InputKind::Picture: {
+            std::vector<std::uint8_t> stream;
+            picture.SaveToStream_PNG(stream);
+            return WritePngFile((dir / "0.png").string(), stream) ? kExitOk : kExitFailed;
+        }
+        case InputKind::IconSet:
+            break;
+        case InputKind::Unreadable:
+            return kExitFailed;
+    }
     for (int i = 0; i < set.Count(); ++i) {
         const IconImage& image = set.Image(i);
         std::vector<std::uint8_t> stream;

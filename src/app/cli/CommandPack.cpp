@@ -4,7 +4,6 @@
 
 #include "CliInput.h"
 #include "Commands.h"
-#include "document/io/PictureImport.h"
 
 namespace iw::cli {
 namespace {
@@ -84,12 +83,16 @@ int RunPack(const Args& args) {
     set.mode = FileModeFromPath(out);
     for (const PackItem& item : items) {
         c32bppDIB picture;
-        if (!LoadPicture(item.path, picture)) return kExitFailed;
-        if (AddPictureImage(set, picture, item.bitCount, item.png) < 0) {
-            std::cerr << "iconwright-cli: " << item.path << ": the picture is " << picture.Width()
-                      << " x " << picture.Height() << "; icon images are at most 256 x 256\n";
-            return kExitFailed;
+        IconSet icon;
+        switch (ReadInput(item.path, picture, icon, context)) {
+            case InputKind::Picture:
+                break;
+            case InputKind::IconSet:
+                return UsageError(item.path + " is an icon file, not a PNG picture", kUsage);
+            case InputKind::Unreadable:
+                return kExitFailed;
         }
+        if (!AddInputPicture(item.path, picture, set, item.bitCount, item.png)) return kExitFailed;
     }
     return WriteOutputSet(out, set, options, context) ? kExitOk : kExitFailed;
 }
