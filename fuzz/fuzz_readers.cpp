@@ -4,8 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <span>
 
 #include "document/io/IconFileReader.h"
@@ -18,10 +16,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     iw::IconSet set;
     iw::NullProgress progress;
     if (!iw::ReadIconData(std::span(data, size - 1), name, set, progress).Ok()) return 0;
-    const std::string problem = iw::test::CheckWriteAndReadBack(set);
-    if (!problem.empty()) {
-        std::fprintf(stderr, "%s\n", problem.c_str());
-        std::abort();
-    }
+    iw::test::AbortUnlessItWritesBack(set);
     return 0;
 }

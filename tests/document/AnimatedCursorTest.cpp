@@ -252,58 +252,6 @@ TEST(AnimatedCursorReader, HostileChunks) {
     EXPECT_FALSE(set.animation.sequenceInUse);  // cleared before reading
 }
 
-// Some writers leave out the pad byte of an odd-sized text; a sub-chunk that cannot be
-// walked at all loses only the rest of the INFO list.
-TEST(AnimatedCursorReader, ABadInfoListKeepsFramesRatesAndSequence) {
-    struct Case {
-        const char* what;
-        Bytes info;  // the LIST's data after "INFO"
-        const char* name;
-        const char* artist;
-    };
-    auto text = [](const char* tag, const std::string& value, std::uint32_t declared) {
-        Bytes out(tag, tag + 4);
-        test::AppendLE32(out, declared);
-        out.insert(out.end(), value.begin(), value.end());  // no pad byte
-        return out;
-    };
-    auto join = [](Bytes a, const Bytes& b) {
-        a.insert(a.end(), b.begin(), b.end());
-        return a;
-    };
-    const Case cases[] = {
-        {"odd name, odd list", join(text("INAM", "Spin!", 5), text("IART", "Anna", 4)), "Spin!",
-         "Anna"},
-        {"odd name and artist", join(text("INAM", "Spin!", 5), text("IART", "Ann", 3)), "Spin!",
-         "Ann"},
-        {"name past the list", join(text("INAM", "Spin", 4), text("IART", "Bo", 900)), "Spin",
-         nullptr},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        AniFixture f(2);
-        f.set.Info(1).rate = 12;
-        f.set.properties.sequence = "1,0,1,";
-        f.set.animation.sequenceInUse = true;
-        Bytes file = BuildAnimatedCursor(f.set, f.context).value();
-        Bytes list = {'L', 'I', 'S', 'T'};
-        test::AppendLE32(list, static_cast<std::uint32_t>(4 + c.info.size()));
-        list = join(join(list, {'I', 'N', 'F', 'O'}), c.info);
-        file.insert(file.begin() + 12, list.begin(), list.end());
-        test::PutLE32(file, 4, static_cast<std::uint32_t>(file.size() - 8));
-        IconSet back;
-        ASSERT_TRUE(ReadIconData(file, "x.ani", back, f.progress).Ok());
-        ASSERT_EQ(back.Count(), 2);
-        EXPECT_EQ(back.properties.name, c.name);
-        if (c.artist) {
-            EXPECT_EQ(back.properties.artist, c.artist);
-        }
-        EXPECT_EQ(back.properties.sequence, "1,0,1,");
-        EXPECT_EQ(back.Info(1).rate, 12);
-        EXPECT_EQ(back.properties.hotspotX, 3);
-    }
-}
-
 TEST(AnimatedCursorReader, CorruptChunksFailTheWholeReadWithTheCorruptMessage) {
     AniFixture f(2);
     Bytes file = BuildAnimatedCursor(f.set, f.context).value();

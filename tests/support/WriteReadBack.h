@@ -4,6 +4,8 @@
 // that the fuzz targets (built without the test framework) check the same as the tests.
 
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <span>
 #include <string>
@@ -43,23 +45,19 @@ inline bool SamePixels(const IconImage& a, const IconImage& b) {
     return true;
 }
 
-// Every PNG stream in an icon file has the directory sides of its own IHDR.
-inline std::string CheckPngDirectorySides(std::span<const std::uint8_t> ico) {
-    const std::size_t count = LoadLE16(ico.data() + 4);
-    for (std::size_t i = 0; i < count; ++i) {
+// Every PNG stream in an icon file we wrote has the directory sides of its own IHDR.
+inline bool PngEntriesHaveTheirOwnSides(std::span<const std::uint8_t> ico) {
+    for (std::size_t i = 0; i < LoadLE16(ico.data() + 4); ++i) {
         const std::uint8_t* entry = ico.data() + 6 + 16 * i;
-        const std::uint64_t size = LoadLE32(entry + 8);
-        const std::uint64_t offset = LoadLE32(entry + 12);
-        if (!RangeFits(offset, size, ico.size())) return "an entry lies outside the icon written";
-        if (size == 0 || ico[offset] == 40) continue;
+        const std::uint32_t size = LoadLE32(entry + 8), offset = LoadLE32(entry + 12);
+        if (!RangeFits(offset, size, ico.size())) return false;
         const auto sides = ReadPngEntrySides(ico.subspan(offset, size));
-        if (!sides) continue;
-        if ((entry[0] ? entry[0] : 256) != sides->width ||
-            (entry[1] ? entry[1] : 256) != sides->height) {
-            return "a PNG entry's directory sides differ from its IHDR";
+        if (sides && ((entry[0] ? entry[0] : 256) != sides->width ||
+                      (entry[1] ? entry[1] : 256) != sides->height)) {
+            return false;
         }
     }
-    return {};
+    return true;
 }
 
 // Writes `set` (as read from a file) as an icon, a cursor of its first image and an
@@ -90,7 +88,7 @@ inline std::string CheckWriteAndReadBack(const IconSet& set) {
             a.png != 0 || ((a.bitCount == 24 || a.bitCount == 32) && a.Width() == a.Height());
         if (exact && !SamePixels(set.Image(i), back.Image(i))) return which + "pixels changed";
     }
-    if (std::string problem = CheckPngDirectorySides(*ico); !problem.empty()) return problem;
+    if (!PngEntriesHaveTheirOwnSides(*ico)) return "a PNG entry's directory sides are not its IHDR's";
 
     const auto cursor =
         BuildCursorFile(set, 0, set.properties.hotspotX, set.properties.hotspotY, context.core);
@@ -104,6 +102,14 @@ inline std::string CheckWriteAndReadBack(const IconSet& set) {
         return "the animated cursor written does not read back";
     }
     return {};
+}
+
+// For the fuzz targets: ends the process when the promise does not hold.
+inline void AbortUnlessItWritesBack(const IconSet& set) {
+    const std::string problem = CheckWriteAndReadBack(set);
+    if (problem.empty()) return;
+    std::fprintf(stderr, "%s\n", problem.c_str());
+    std::abort();
 }
 
 }  // namespace iw::test
