@@ -88,7 +88,8 @@ inline std::string CheckWriteAndReadBack(const IconSet& set) {
             a.png != 0 || ((a.bitCount == 24 || a.bitCount == 32) && a.Width() == a.Height());
         if (exact && !SamePixels(set.Image(i), back.Image(i))) return which + "pixels changed";
     }
-    if (!PngEntriesHaveTheirOwnSides(*ico)) return "a PNG entry's directory sides are not its IHDR's";
+    if (!PngEntriesHaveTheirOwnSides(*ico))
+        return "a PNG entry's directory sides are not its IHDR's";
 
     const auto cursor =
         BuildCursorFile(set, 0, set.properties.hotspotX, set.properties.hotspotY, context.core);
