@@ -176,12 +176,9 @@ const std::int32_t* ZeroCells() {
     return zeros;
 }
 
-const std::vector<std::uint8_t>& NoBytes() {
-    static const std::vector<std::uint8_t> none;
-    return none;
-}
-
 }  // namespace
+
+const std::vector<std::uint8_t> IconImage::kNoBytes;
 
 void IconImage::FreeCells::operator()(std::int32_t* p) const {
     ReleaseCells(p);
@@ -268,10 +265,6 @@ void IconImage::SetPendingPixels(std::shared_ptr<const PendingPixels> source) {
     cells_.reset();
     source_ = std::move(source);
     Refresh();
-}
-
-const std::vector<std::uint8_t>& IconImage::OriginalPng() const {
-    return originalPng_ ? *originalPng_ : NoBytes();
 }
 
 void IconImage::KeepOriginalPng(SharedBytes bytes) {

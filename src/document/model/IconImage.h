@@ -101,7 +101,9 @@ class IconImage {
     // The PNG stream the image was read from, kept while nobody has taken mutable access to
     // the pixels, so that a save can write it again instead of encoding anew. Empty when
     // there is none.
-    const std::vector<std::uint8_t>& OriginalPng() const;
+    const std::vector<std::uint8_t>& OriginalPng() const {
+        return originalPng_ ? *originalPng_ : kNoBytes;
+    }
     // Keeps `bytes` as the stream of the pixels as they are now; the caller vouches that
     // they match (the reader, or an undo that put the very pixels back).
     void KeepOriginalPng(SharedBytes bytes);
@@ -109,6 +111,7 @@ class IconImage {
     void DropOriginalPng();
 
   private:
+    static const std::vector<std::uint8_t> kNoBytes;
     static std::size_t Index(int x, int y, int plane) {
         return static_cast<std::size_t>(plane) * kPlaneCells + static_cast<std::size_t>(y) * kSide +
                static_cast<std::size_t>(x);
