@@ -1,8 +1,11 @@
 // Reading and writing whole icons in memory:
-//  - a 9-size icon (16 to 256 px, 32-bit, the 256 px image PNG-compressed), read, against
-//    the floor of decoding its PNG entry with libpng and copying its bitmaps;
+//  - a 9-size icon (16 to 256 px, 32-bit, the 256 px image PNG-compressed), read with every
+//    pixel decoded, against the floor of decoding its PNG entry with libpng and copying its
+//    bitmaps;
 //  - a 175-image icon of bitmaps (16 to 64 px, 4 to 32 bits), read;
-//  - writing both, fresh and (for PNG entries) from the bytes they were read from.
+//  - a 175-image icon of 256 px PNG entries, read as info reads it (no pixel decoded) and
+//    with every pixel decoded;
+//  - writing them, fresh and (for PNG entries) from the bytes they were read from.
 
 #include <benchmark/benchmark.h>
 #include <png.h>
@@ -75,17 +78,21 @@ const Bytes& NineSizeFile() {
     return file;
 }
 
-void Read(benchmark::State& state, const Bytes& file) {
+// PNG entries are decoded when their pixels are first read; `decode` reads one of each.
+void Read(benchmark::State& state, const Bytes& file, bool decode) {
     iw::NullProgress progress;
     for (auto _ : state) {
         iw::IconSet set;
         auto result = iw::ReadIconData(file, "icon.ico", set, progress);
+        const iw::IconSet& view = set;
+        for (int i = 0; decode && i < view.Count(); ++i)
+            benchmark::DoNotOptimize(view.Image(i).Color(0, 0));
         benchmark::DoNotOptimize(result);
     }
 }
 
 void BM_ReadNineSizeIcon(benchmark::State& state) {
-    Read(state, NineSizeFile());
+    Read(state, NineSizeFile(), true);
 }
 BENCHMARK(BM_ReadNineSizeIcon)->Unit(benchmark::kMicrosecond);
 
@@ -119,9 +126,34 @@ BENCHMARK(BM_LibpngPlusCopyNineSizeIcon)->Unit(benchmark::kMicrosecond);
 
 void BM_Read175BitmapIcon(benchmark::State& state) {
     static const Bytes file = Encode(ManySet(false));
-    Read(state, file);
+    Read(state, file, true);
 }
 BENCHMARK(BM_Read175BitmapIcon)->Unit(benchmark::kMicrosecond);
+
+// 175 different 256 px images, each PNG-compressed.
+const Bytes& LargePngFile() {
+    static const Bytes file = [] {
+        iw::IconSet set;
+        for (int i = 0; i < 175; ++i) {
+            set.AddIcon(255, 255, 32);
+            set.Info(i).png = 1;
+            Paint(set.Image(i), i);
+            set.Image(i).Color(i, i) = iw::PackColor(i, 255 - i, 7);
+        }
+        return Encode(set);
+    }();
+    return file;
+}
+
+void BM_Read175LargePngIconHeaders(benchmark::State& state) {
+    Read(state, LargePngFile(), false);
+}
+BENCHMARK(BM_Read175LargePngIconHeaders)->Unit(benchmark::kMicrosecond);
+
+void BM_Read175LargePngIconDecoded(benchmark::State& state) {
+    Read(state, LargePngFile(), true);
+}
+BENCHMARK(BM_Read175LargePngIconDecoded)->Unit(benchmark::kMillisecond);
 
 void Write(benchmark::State& state, const iw::IconSet& set) {
     iw::test::TempDir dir;
@@ -137,11 +169,16 @@ void BM_WriteNineSizeIconFresh(benchmark::State& state) {
 }
 BENCHMARK(BM_WriteNineSizeIconFresh)->Unit(benchmark::kMillisecond);
 
-void BM_WriteNineSizeIconAsRead(benchmark::State& state) {
+// Saving a set as read from `file`: PNG entries are written from the bytes read.
+void WriteAsRead(benchmark::State& state, const Bytes& file) {
     iw::IconSet set;
     iw::NullProgress progress;
-    iw::ReadIconData(NineSizeFile(), "icon.ico", set, progress);
+    iw::ReadIconData(file, "icon.ico", set, progress);
     Write(state, set);
+}
+
+void BM_WriteNineSizeIconAsRead(benchmark::State& state) {
+    WriteAsRead(state, NineSizeFile());
 }
 BENCHMARK(BM_WriteNineSizeIconAsRead)->Unit(benchmark::kMillisecond);
 
@@ -153,11 +190,13 @@ BENCHMARK(BM_Write175BitmapIcon)->Unit(benchmark::kMillisecond);
 
 void BM_Write175PngIconAsRead(benchmark::State& state) {
     static const Bytes file = Encode(ManySet(true));
-    iw::IconSet set;
-    iw::NullProgress progress;
-    iw::ReadIconData(file, "icon.ico", set, progress);
-    Write(state, set);
+    WriteAsRead(state, file);
 }
 BENCHMARK(BM_Write175PngIconAsRead)->Unit(benchmark::kMillisecond);
+
+void BM_Write175LargePngIconAsRead(benchmark::State& state) {
+    WriteAsRead(state, LargePngFile());
+}
+BENCHMARK(BM_Write175LargePngIconAsRead)->Unit(benchmark::kMillisecond);
 
 }  // namespace

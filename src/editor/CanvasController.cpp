@@ -23,7 +23,7 @@ void CanvasController::AddUndo() {
 
 void CanvasController::Apply(IconImage& image, const ToolResult& result) {
     if (!result.imageChanged) return;
-    image.originalPng.clear();
+    image.DropOriginalPng();
     events_.Notify(&IEditorObserver::ImageChanged);
 }
 

@@ -25,7 +25,7 @@ bool PlotPixel(IconImage& image, int x, int y, PackedColor color, int alpha) {
     if (!InsideImage(image, x, y)) return false;
     image.Color(x, y) = color;
     if (image.info.bitCount == 32) image.Alpha(x, y) = alpha;
-    if (!image.originalPng.empty()) image.originalPng.clear();
+    if (!image.OriginalPng().empty()) image.DropOriginalPng();
     return true;
 }
 

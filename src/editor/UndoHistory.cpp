@@ -46,7 +46,7 @@ bool UndoHistory::Undo(IconImage& current) {
     redoIds_[0] = stateId_;
 
     CopyCorner(undoPixels_[0], current, width, height);
-    current.originalPng.clear();
+    current.DropOriginalPng();
     stateId_ = undoIds_[0];
     // One level up: level i receives level i + 1.
     std::rotate(undoPixels_.begin(), undoPixels_.begin() + 1, undoPixels_.end());
@@ -60,7 +60,7 @@ bool UndoHistory::Repeat(IconImage& current) {
     if (redoCount_ < 0) return false;
     AddUndo(current);
     CopyCorner(redoPixels_[0], current, ImageWidth(current), ImageHeight(current));
-    current.originalPng.clear();
+    current.DropOriginalPng();
     stateId_ = redoIds_[0];
     std::rotate(redoPixels_.begin(), redoPixels_.begin() + 1, redoPixels_.end());
     std::rotate(redoIds_.begin(), redoIds_.begin() + 1, redoIds_.end());

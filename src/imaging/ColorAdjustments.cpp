@@ -6,6 +6,8 @@ namespace iw {
 
 ColorAdjustments::ColorAdjustments(IconImage& image, IAdjustmentsObserver* observer)
     : image_(image), observer_(observer), width_(image.info.Width()), height_(image.info.Height()) {
+    // Taken first: the writable rows below drop the stream from the image.
+    backupPng_ = image_.OriginalPng();
     const auto cells = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
     backupColors_.resize(cells);
     backupAlphas_.resize(cells);
@@ -16,7 +18,6 @@ ColorAdjustments::ColorAdjustments(IconImage& image, IAdjustmentsObserver* obser
         std::copy_n(colors.begin(), width_, backupColors_.begin() + at);
         std::copy_n(alphas.begin(), width_, backupAlphas_.begin() + at);
     }
-    backupPng_ = image_.originalPng;
 }
 
 void ColorAdjustments::RestoreBackup() {
@@ -27,7 +28,7 @@ void ColorAdjustments::RestoreBackup() {
         std::copy_n(backupAlphas_.begin() + at, width_,
                     image_.Row(y, IconImage::AlphaPlane).begin());
     }
-    image_.originalPng = backupPng_;
+    image_.KeepOriginalPng(backupPng_);
 }
 
 void ColorAdjustments::SetBrightness(int value) {
@@ -63,7 +64,7 @@ void ColorAdjustments::UpdateAdjustments() {
     const bool changes = sliders_.contrast != kNeutral || sliders_.saturation != kNeutral ||
                          sliders_.gamma != kNeutral || sliders_.brightness != kNeutral;
     // Changed pixels no longer match the PNG stream the image was read from.
-    if (changes) image_.originalPng.clear();
+    if (changes) image_.DropOriginalPng();
     if (sliders_.contrast != kNeutral) DoContrast(image_, sliders_.contrast, channel_);
     if (sliders_.saturation != kNeutral) DoSat(image_, sliders_.saturation, channel_);
     if (sliders_.gamma != kNeutral) DoGamma(image_, sliders_.gamma, channel_);

@@ -77,14 +77,14 @@ void WriteImageRgba(IconImage& image, int x, int y, const RgbaBuffer& pixels) {
             if (bits == 32) alphas[at] = p.a;
         }
     }
-    if (!area.Empty()) image.originalPng.clear();
+    if (!area.Empty()) image.DropOriginalPng();
 }
 
 void ReplaceImageRgba(IconImage& image, const RgbaBuffer& pixels) {
     image.ClearPlanes();
     image.info.widthMinus1 = static_cast<std::int16_t>(UsableSide(pixels.Width()) - 1);
     image.info.heightMinus1 = static_cast<std::int16_t>(UsableSide(pixels.Height()) - 1);
-    image.originalPng.clear();
+    image.DropOriginalPng();
     WriteImageRgba(image, 0, 0, pixels);
 }
 

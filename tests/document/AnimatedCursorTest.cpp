@@ -85,7 +85,7 @@ struct AniFixture {
 
 TEST(AnimatedCursorWriter, PlainAnimationHasNoInfoRateOrSeqChunks) {
     AniFixture f(3);
-    Bytes file = BuildAnimatedCursor(f.set, f.context);
+    Bytes file = BuildAnimatedCursor(f.set, f.context).value();
     auto chunks = WalkFile(file);
     for (const Chunk& c : chunks) {
         if (c.path == "LIST") {
@@ -124,7 +124,7 @@ TEST(AnimatedCursorWriter, NameArtistRatesAndSequence) {
     f.set.Info(1).rate = 12;
     f.set.properties.sequence = "2,0,1,0,";
     f.set.animation.sequenceInUse = true;
-    Bytes file = BuildAnimatedCursor(f.set, f.context);
+    Bytes file = BuildAnimatedCursor(f.set, f.context).value();
     auto chunks = WalkFile(file);
     const Chunk* name = Find(chunks, "LIST:INFO/INAM");
     ASSERT_NE(name, nullptr);
@@ -254,7 +254,7 @@ TEST(AnimatedCursorReader, HostileChunks) {
 
 TEST(AnimatedCursorReader, CorruptChunksFailTheWholeReadWithTheCorruptMessage) {
     AniFixture f(2);
-    Bytes file = BuildAnimatedCursor(f.set, f.context);
+    Bytes file = BuildAnimatedCursor(f.set, f.context).value();
     // Make the anih chunk claim more than the file holds.
     test::PutLE32(file, 16, 0x7FFFFFF0u);
     test::TempDir dir;

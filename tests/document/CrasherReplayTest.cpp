@@ -1,28 +1,121 @@
-// Every input a fuzzer ever broke something with is kept under tests/data/crashers/ and is
-// fed here to every decoder that takes untrusted bytes, whatever decoder it was found in.
+// Every input that ever broke something is kept under tests/data/crashers/ and is fed here
+// to every decoder that takes untrusted bytes, whatever decoder it was found in. Whatever
+// reads must write again and read back; the findings about reading and writing icons are
+// also held to what each of them showed.
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
 
 #include "codec/png/c32bppDIB.h"
 #include "codec/zlib/Compression.h"
 #include "document/io/IconFileReader.h"
+#include "document/io/ImageRgba.h"
 #include "support/TestSupport.h"
+#include "support/WriteReadBack.h"
 
 namespace iw {
 namespace {
 
-TEST(CrasherReplay, EveryFindingGoesCleanlyThroughEveryDecoder) {
+using Path = std::filesystem::path;
+
+// The set read from `file` under its own name.
+IconSet ReadAsNamed(const Path& file) {
+    IconSet set;
+    NullProgress progress;
+    EXPECT_TRUE(
+        ReadIconData(test::ReadFileBytes(file), file.filename().string(), set, progress).Ok());
+    return set;
+}
+
+// An image whose depth no writer knows stays a blank 32-bit image.
+void BlankAndThirtyTwoBit(const Path& file) {
+    const IconSet set = ReadAsNamed(file);
+    EXPECT_EQ(set.Info(0).bitCount, 32);
+    const auto rgba = ImageToRgba(set.Image(0));
+    EXPECT_EQ(std::count(rgba.begin(), rgba.end(), 0), static_cast<long>(rgba.size()));
+}
+
+// One bad text in the INFO list lost the whole animated cursor.
+void FramesRatesAndSequenceKept(const Path& file) {
+    const IconSet set = ReadAsNamed(file);
+    EXPECT_EQ(set.Count(), 2);
+    EXPECT_EQ(set.properties.name, "Spin!");
+    EXPECT_EQ(set.properties.sequence, "0,1,0,");
+    EXPECT_EQ(set.Info(1).rate, 9);
+}
+
+// A 256-pixel PNG entry went into cursors as PNG, which the cursor reader never finds.
+void SamePixelsInCursors(const Path& file) {
+    const IconSet set = ReadAsNamed(file);
+    test::SilentContext context;
+    for (const auto& [bytes, name] :
+         {std::pair{BuildCursorFile(set, 0, 0, 0, context.core), "c.cur"},
+          std::pair{BuildAnimatedCursor(set, context.core), "c.ani"}}) {
+        IconSet back;
+        ASSERT_TRUE(bytes && ReadIconData(*bytes, name, back, context.progress).Ok());
+        EXPECT_TRUE(test::SamePixels(set.Image(0), back.Image(0))) << name;
+    }
+}
+
+// Damaged pictures are told apart as the reader does, for every command.
+void RefusedWith(const Path& file, const std::string& key) {
+    test::MessageFixture messages;
+    NullProgress progress;
+    NullLog log;
+    CoreContext context{messages.service, progress, log};
+    IconSet set;
+    EXPECT_FALSE(ReadIconFile(file.string(), set, context));
+    ASSERT_EQ(messages.presenter.shown.size(), 1u);
+    EXPECT_EQ(messages.presenter.shown[0].key, key);
+}
+
+// What each finding showed, beyond reading cleanly and writing back.
+const std::map<std::string, std::function<void(const Path&)>>& Findings() {
+    static const std::map<std::string, std::function<void(const Path&)>> findings = {
+        // Saving crashed on the directory's bit count when the header's could not be used.
+        {"ico-directory-bitcount-0-header-16bpp.ico", BlankAndThirtyTwoBit},
+        {"ico-directory-bitcount-2-header-16bpp.ico", BlankAndThirtyTwoBit},
+        {"ico-directory-bitcount-7-header-16bpp.ico", BlankAndThirtyTwoBit},
+        {"ico-directory-bitcount-0-header-sides-too-large.ico", BlankAndThirtyTwoBit},
+        // A PNG entry is a 32-bit image whatever the directory says: its alpha stays.
+        {"png-entry-directory-bitcount-8.ico",
+         [](const Path& file) {
+             const auto rgba = ImageToRgba(ReadAsNamed(file).Image(0));
+             EXPECT_EQ(rgba[4 * 17 + 3], 17);
+         }},
+        // Its IHDR's sides, which the write check holds the directory written to as well.
+        {"png-entry-non-square-48x33.ico",
+         [](const Path& file) { EXPECT_EQ(ReadAsNamed(file).Info(0).Width(), 48); }},
+        {"png-entry-256-for-cursors.ico", SamePixelsInCursors},
+        {"ani-info-odd-name-without-pad-byte.ani", FramesRatesAndSequenceKept},
+        {"ani-info-text-longer-than-its-list.ani", FramesRatesAndSequenceKept},
+        {"png-cut-short-renamed.ico",
+         [](const Path& file) { RefusedWith(file, "RenamedPicture"); }},
+        {"png-bad-signature.png", [](const Path& file) { RefusedWith(file, "CorruptFile"); }},
+    };
+    return findings;
+}
+
+TEST(CrasherReplay, EveryFindingGoesCleanlyThroughEveryDecoderAndWritesBack) {
     const auto folder = test::TestDataPath("crashers");
     int files = 0;
+    int known = 0;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        SCOPED_TRACE(entry.path().filename().string());
+        const std::string name = entry.path().filename().string();
+        SCOPED_TRACE(name);
         const std::vector<std::uint8_t> bytes = test::ReadFileBytes(entry.path());
         ++files;
-        for (const char* name : {"f.ico", "f.cur", "f.ani", "f.bin"}) {
+        for (const char* as : {"f.ico", "f.cur", "f.ani", "f.bin"}) {
+            SCOPED_TRACE(as);
             IconSet set;
             NullProgress progress;
-            IconReadResult result = ReadIconData(bytes, name, set, progress);
+            IconReadResult result = ReadIconData(bytes, as, set, progress);
             EXPECT_EQ(result.Ok(), !set.Empty());
+            if (result.Ok()) {
+                EXPECT_EQ(test::CheckWriteAndReadBack(set), "");
+            }
         }
         c32bppDIB picture;
         if (picture.LoadPicture_Stream(bytes, false, IconEntryLimits())) {
@@ -36,8 +129,13 @@ TEST(CrasherReplay, EveryFindingGoesCleanlyThroughEveryDecoder) {
                 EXPECT_LE(out.size(), 1u << 20);
             }
         }
+        if (auto finding = Findings().find(name); finding != Findings().end()) {
+            ++known;
+            finding->second(entry.path());
+        }
     }
     EXPECT_GE(files, 1);
+    EXPECT_EQ(known, static_cast<int>(Findings().size()));  // every finding is on disk
 }
 
 }  // namespace

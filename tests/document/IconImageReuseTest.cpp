@@ -24,6 +24,7 @@ TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
         std::vector<IconImage> images;
         for (int i = 0; i < 40; ++i) {
             images.emplace_back();
+            images.back().At(0, 0, IconImage::ColorPlane) = 0;  // takes its block
             EXPECT_TRUE(AllZero(images.back())) << "round " << round << " image " << i;
         }
         for (std::size_t i = 0; i < images.size(); ++i) {
@@ -49,6 +50,7 @@ TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
     full = IconImage();
     clone = IconImage();
     IconImage fresh;
+    fresh.Alpha(0, 0) = 0;
     EXPECT_TRUE(AllZero(fresh));
     EXPECT_TRUE(AllZero(full));
 }

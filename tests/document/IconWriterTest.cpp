@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 #include <csignal>
 
+#include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "imaging/StandardColors.h"
@@ -189,6 +190,25 @@ TEST(IconWriter, FailedSaveLeavesTheOldFileByteForByte) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(f.dir.Path()),
                             std::filesystem::directory_iterator()),
               1);
+}
+
+// Fields no file can hold are refused with a failure, never trusted: nothing is written.
+TEST(Writers, RefuseImagesTheyCannotWrite) {
+    const IconInfo bad[] = {{15, 15, 0},  {15, 15, 2},  {15, 15, 7},   {15, 15, 16},
+                            {15, 15, -8}, {-1, 15, 32}, {15, 256, 32}, {15, 15, 2, 0, 1}};
+    for (const IconInfo& info : bad) {
+        WriteFixture f;
+        IconSet set;
+        set.AddIcon(15, 15, 32);
+        set.InsertIcon(1, IconImage());
+        set.Info(1) = info;
+        const auto path = (f.dir / "bad").string();
+        EXPECT_FALSE(WriteIconFile(path, set, f.context) ||
+                     WriteCursorFile(path, set, 1, 0, 0, f.context) ||
+                     WriteAnimatedCursor(path, set, f.context));
+        EXPECT_FALSE(std::filesystem::exists(path));
+        EXPECT_TRUE(BuildCursorFile(set, 0, 0, 0, f.context));  // the good image still can
+    }
 }
 
 TEST(CursorWriter, OneImageAtOffset22WithHotspotAndColourCountZero) {

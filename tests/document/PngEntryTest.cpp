@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "codec/png/PngCodec.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
+#include "document/io/ImageRgba.h"
 #include "support/IcoBuilder.h"
 #include "support/TestSupport.h"
 
@@ -25,13 +27,29 @@ void PaintGradient(IconImage& image) {
     }
 }
 
+test::EntrySpec GradientPngEntry(int width, int height) {
+    std::vector<std::uint8_t> rgba;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            rgba.insert(rgba.end(), {static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y),
+                                     static_cast<std::uint8_t>(x ^ y),
+                                     static_cast<std::uint8_t>((x * 7 + y) & 0xFF)});
+        }
+    }
+    test::EntrySpec entry;
+    entry.width = width;
+    entry.height = height;
+    EXPECT_TRUE(EncodePngStream(width, height, rgba, entry.data));
+    return entry;
+}
+
 TEST(PngEntries, RoundTripThroughWriterAndReader) {
     Fixture f;
     IconSet set;
     set.AddIcon(255, 255, 32);
     set.Info(0).png = 1;
     PaintGradient(set.Image(0));
-    set.AddIcon(47, 32, 32);  // non-square PNG entries keep their own sides
+    set.AddIcon(47, 32, 32);  // 48 wide, 33 high: a PNG entry keeps its own sides
     set.Info(1).png = 1;
     PaintGradient(set.Image(1));
     auto path = (f.dir / "p.ico").string();
@@ -39,8 +57,8 @@ TEST(PngEntries, RoundTripThroughWriterAndReader) {
     EXPECT_NE(std::find(f.log.entries.begin(), f.log.entries.end(), "I_AI"), f.log.entries.end());
     test::Bytes b = test::ReadFileBytes(path);
     EXPECT_EQ(b[6], 0);  // 256 written as 0
-    EXPECT_EQ(b[6 + 16 + 0], 33);
-    EXPECT_EQ(b[6 + 16 + 1], 48);
+    EXPECT_EQ(b[6 + 16 + 0], 48);
+    EXPECT_EQ(b[6 + 16 + 1], 33);
 
     IconSet back;
     ASSERT_TRUE(ReadIconFile(path, back, f.context));
@@ -51,16 +69,40 @@ TEST(PngEntries, RoundTripThroughWriterAndReader) {
         EXPECT_EQ(back.Info(i).Height(), set.Info(i).Height());
         for (int y = 0; y < set.Info(i).Height(); ++y) {
             for (int x = 0; x < set.Info(i).Width(); ++x) {
-                ASSERT_EQ(back.Image(i).Color(x, y), set.Image(i).Color(x, y));
-                ASSERT_EQ(back.Image(i).Alpha(x, y), set.Image(i).Alpha(x, y));
+                ASSERT_EQ(std::as_const(back).Image(i).Color(x, y), set.Image(i).Color(x, y));
+                ASSERT_EQ(std::as_const(back).Image(i).Alpha(x, y), set.Image(i).Alpha(x, y));
             }
         }
     }
-    // Unchanged images keep the bytes they were read from and are written from them.
-    EXPECT_FALSE(back.Image(0).originalPng.empty());
+    // Looking at the pixels kept the bytes; an unchanged image is written from them.
+    EXPECT_FALSE(back.Image(0).OriginalPng().empty());
     auto again = (f.dir / "again.ico").string();
     ASSERT_TRUE(WriteIconFile(again, back, f.context));
     EXPECT_EQ(test::ReadFileBytes(again), b);
+}
+
+// An entry is decoded only when its pixels are needed, and saved as the bytes it was read
+// from until somebody changes it: also when its data turns out corrupt (it then shows blank).
+TEST(PngEntries, AreDecodedWhenNeededAndSavedAsReadUntilChanged) {
+    Fixture f;
+    const test::EntrySpec good = GradientPngEntry(40, 24);
+    test::EntrySpec corrupt = good;
+    corrupt.data.resize(corrupt.data.size() - 20);  // the image data runs past the end
+    for (const test::EntrySpec& entry : {good, corrupt}) {
+        const test::Bytes file = test::BuildIconFile({entry});
+        IconSet set;
+        ASSERT_TRUE(ReadIconData(file, "p.ico", set, f.progress).Ok());
+        const IconImage& image = std::as_const(set).Image(0);
+        EXPECT_TRUE(image.PixelsPending());
+        EXPECT_EQ(EncodeIconFile(set, f.context), file);
+        RgbaImage decoded;
+        if (!DecodePngStream(entry.data, decoded)) decoded.rgba.assign(40 * 24 * 4, 0);
+        EXPECT_EQ(ImageToRgba(image), decoded.rgba);
+        EXPECT_EQ(EncodeIconFile(set, f.context), file);  // looking kept the bytes
+        set.Image(0).Color(1, 1) = PackColor(1, 2, 3);
+        EXPECT_TRUE(image.OriginalPng().empty());
+        EXPECT_NE(EncodeIconFile(set, f.context), file);
+    }
 }
 
 TEST(PngEntries, BrokenStreamStaysBlankAndTheReadGoesOn) {
@@ -82,7 +124,7 @@ TEST(PngEntries, BrokenStreamStaysBlankAndTheReadGoesOn) {
     ASSERT_TRUE(ReadIconFile(path.string(), back, f.context));
     ASSERT_EQ(back.Count(), 2);
     EXPECT_EQ(back.Info(0).png, 1);
-    EXPECT_TRUE(back.Image(0).originalPng.empty());
+    EXPECT_TRUE(back.Image(0).OriginalPng().empty());
     EXPECT_EQ(back.Image(1).Color(3, 4), set.Image(1).Color(3, 4));
 }
 

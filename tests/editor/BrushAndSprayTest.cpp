@@ -44,11 +44,11 @@ TEST(PlotPixel, StoresTheColourAsGivenAlphaOnlyAt32BitsAndDropsPointsOutside) {
     IconImage deep = Image(16, 32);
     IconImage mono = Image(16, 1);
     mono.Alpha(3, 4) = 77;
-    deep.originalPng = {1, 2, 3};
+    deep.KeepOriginalPng({1, 2, 3});
     EXPECT_FALSE(PlotPixel(deep, 99, 99, 5, 255));
-    EXPECT_FALSE(deep.originalPng.empty());
+    EXPECT_FALSE(deep.OriginalPng().empty());
     EXPECT_TRUE(PlotPixel(deep, 3, 4, PackColor(1, 2, 3), 100));
-    EXPECT_TRUE(deep.originalPng.empty());  // the pixels no longer match the stream
+    EXPECT_TRUE(deep.OriginalPng().empty());  // the pixels no longer match the stream
     EXPECT_TRUE(PlotPixel(mono, 3, 4, PackColor(10, 200, 30), 100));
     EXPECT_TRUE(PlotPixel(mono, 5, 5, InverseColor, 100));
     EXPECT_EQ(deep.Alpha(3, 4), 100);

@@ -134,7 +134,7 @@ IconImage Photo() {
     test::ShapeImage(image, 47, 33, 32);
     test::FillPhotoLike(image, 21);
     image.Alpha(6, 6) = 90;
-    image.originalPng = {1, 2, 3};
+    image.KeepOriginalPng({1, 2, 3});
     return image;
 }
 
@@ -154,7 +154,7 @@ TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFro
         window.SetChannel(channel);
     window.SetBrightness(50);
     EXPECT_TRUE(SamePlanes(image, original));
-    EXPECT_EQ(image.originalPng, original.originalPng);
+    EXPECT_EQ(image.OriginalPng(), original.OriginalPng());
     EXPECT_EQ(seen.redraws, 6);
 
     window.SetBrightness(60);
@@ -170,7 +170,7 @@ TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFro
     DoBrightness(expected, 60, Green);
     EXPECT_TRUE(SamePlanes(image, expected));
     EXPECT_FALSE(SamePlanes(image, original));
-    EXPECT_TRUE(image.originalPng.empty());  // the stream read with the pixels no longer applies
+    EXPECT_TRUE(image.OriginalPng().empty());  // the stream read with the pixels no longer applies
 }
 
 TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
@@ -184,7 +184,7 @@ TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
         window.SetChannel(All);
         window.Cancel();
         EXPECT_TRUE(SamePlanes(image, original));
-        EXPECT_EQ(image.originalPng, original.originalPng);
+        EXPECT_EQ(image.OriginalPng(), original.OriginalPng());
         window.SetBrightness(90);  // closed: nothing happens
         EXPECT_TRUE(SamePlanes(image, original));
         EXPECT_EQ(seen.redraws, 4);

@@ -59,11 +59,12 @@ TEST(ImageRgbaPixels, RegionsAreClippedToTheImage) {
 
     RgbaBuffer big(8, 8);
     big.At(0, 0) = {9, 9, 9, 255};
-    image.originalPng = {1, 2, 3};
+    image.KeepOriginalPng(std::vector<std::uint8_t>{1, 2, 3});
     WriteImageRgba(image, 4, 3, big);  // only (4, 3) lies inside
-    EXPECT_EQ(image.Color(4, 3), PackColor(9, 9, 9));
-    EXPECT_EQ(image.Color(5, 3), 0);  // beyond the sides: untouched
-    EXPECT_TRUE(image.originalPng.empty());
+    const IconImage& written = image;
+    EXPECT_TRUE(written.OriginalPng().empty());
+    EXPECT_EQ(written.Color(4, 3), PackColor(9, 9, 9));
+    EXPECT_EQ(written.Color(5, 3), 0);  // beyond the sides: untouched
 }
 
 TEST(ImageRgbaPixels, WritingFollowsTheDepthRules) {

@@ -3,6 +3,10 @@
 as icotool and Pillow: count, sizes, bit depths and cursor hotspots (and, when the CLI can
 extract images, the same pixels as Pillow).
 
+Then every file under ../crashers goes through every command: a file that info cannot read
+makes each command fail with exit status 1 and info's own message; a file that info reads
+converts to .ico, .cur and .ani.
+
 usage: check_read.py ICONWRIGHT_CLI FIXTURE_DIR
 """
 import json
@@ -91,15 +95,44 @@ def check(cli, path, problems):
     return len(images)
 
 
+def check_every_command(cli, path, problems):
+    name = os.path.basename(path)
+    info = subprocess.run([cli, "info", path], capture_output=True, text=True)
+    with tempfile.TemporaryDirectory() as tmp:
+        if info.returncode == 0:
+            for ext in (".ico", ".cur", ".ani"):
+                out = subprocess.run([cli, "convert", path, os.path.join(tmp, "out" + ext)],
+                                     capture_output=True, text=True)
+                if out.returncode != 0:
+                    problems.append(f"{name}: convert to {ext} ends with {out.returncode}: "
+                                    f"{out.stderr.strip()}")
+            return
+        if info.returncode != 1:
+            problems.append(f"{name}: info ends with {info.returncode}")
+        for args in (["extract", path, os.path.join(tmp, "x")],
+                     ["convert", path, os.path.join(tmp, "out.ico")],
+                     ["convert", path, os.path.join(tmp, "out.png")],
+                     ["pack", os.path.join(tmp, "out.ico"), path]):
+            out = subprocess.run([cli, *args], capture_output=True, text=True)
+            if (out.returncode, out.stderr) != (1, info.stderr):
+                problems.append(f"{name}: {args[0]} ends with {out.returncode} saying "
+                                f"{out.stderr.strip()!r}; info says {info.stderr.strip()!r}")
+
+
 def main():
     cli, folder = sys.argv[1], sys.argv[2]
     problems = []
     files = sorted(f for f in os.listdir(folder) if f.endswith((".ico", ".cur")))
     count = sum(check(cli, os.path.join(folder, f), problems) for f in files)
+    crashers = os.path.join(folder, os.pardir, "crashers")
+    findings = sorted(os.listdir(crashers))
+    for f in findings:
+        check_every_command(cli, os.path.join(crashers, f), problems)
     for p in problems:
         print("MISMATCH", p)
-    print(f"Interop: {len(files)} files, {count} images; {len(problems)} mismatches")
-    return 1 if problems or not files else 0
+    print(f"Interop: {len(files)} files, {count} images; {len(findings)} findings through "
+          f"every command; {len(problems)} mismatches")
+    return 1 if problems or not files or not findings else 0
 
 
 if __name__ == "__main__":

@@ -1,10 +1,10 @@
 #include "CliInput.h"
 
-#include <cstring>
 #include <fstream>
 #include <iostream>
 
 #include "app/shared/QtPictureDecoder.h"
+#include "codec/png/PngCodec.h"
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
@@ -35,26 +35,21 @@ std::string Lower(std::string text) {
 
 }  // namespace
 
-bool StartsWithPngSignature(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    char head[8] = {};
-    return in.read(head, 8) && std::memcmp(head, "\x89PNG\r\n\x1a\n", 8) == 0;
-}
-
-bool LoadPicture(const std::string& path, c32bppDIB& picture) {
-    if (!picture.LoadPicture_File(path)) {
-        std::cerr << "iconwright-cli: " << path << ": not a PNG picture that can be read\n";
-        return false;
-    }
-    return true;
-}
-
 bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream) {
     if (stream.empty() || !WriteFileAtomically(file, std::as_bytes(std::span(stream)))) {
         std::cerr << "iconwright-cli: " << file << ": could not be written\n";
         return false;
     }
     return true;
+}
+
+bool WritePicturePng(const std::string& file, const RgbaBuffer& picture) {
+    std::vector<std::uint8_t> stream;
+    if (!EncodePngStream(picture.Width(), picture.Height(), picture.Bytes(), stream)) {
+        std::cerr << "iconwright-cli: " << file << ": could not be encoded\n";
+        return false;
+    }
+    return WritePngFile(file, stream);
 }
 
 PictureFormat PictureFormatOfFile(const std::string& path) {
@@ -70,13 +65,31 @@ bool IsPictureFile(const std::string& path) {
     return format != PictureFormat::Unknown && format != PictureFormat::Ico;
 }
 
+bool ReportUnreadableInput(const std::string& path, CliContext& context) {
+    IconSet probe;
+    if (ReadIconFile(path, probe, context.Core())) {
+        std::cerr << "iconwright-cli: " << path << ": an icon file, not a picture\n";
+    }
+    return false;
+}
+
 bool LoadPictureInput(const std::string& path, RgbaBuffer& picture, CliContext& context) {
     app::QtPictureDecoder decoder;
     PictureLoadOptions options;
     options.decoder = &decoder;
-    // The core has told the user why (on stderr) when it returns anything but Ok.
-    return LoadPictureFile(path, options, context.Core().messages, picture) ==
-           PictureLoadStatus::Ok;
+    options.reportFailure = false;
+    switch (LoadPictureFile(path, options, context.Core().messages, picture)) {
+        case PictureLoadStatus::Ok:
+            return true;
+        case PictureLoadStatus::Declined:
+            return false;
+        default:
+            break;
+    }
+    // A Photoshop file has been reported by its reader; anything else is worded as the
+    // icon reader words it, so that every command says the same of one file.
+    if (PictureFormatOfFile(path) == PictureFormat::Psd) return false;
+    return ReportUnreadableInput(path, context);
 }
 
 bool LoadInputSet(const std::string& path, IconSet& set, CliContext& context) {

@@ -7,20 +7,16 @@
 #include <vector>
 
 #include "CliSupport.h"
-#include "codec/png/c32bppDIB.h"
 #include "document/io/PictureDecoder.h"
 #include "document/model/IconSet.h"
 #include "imaging/RgbaBuffer.h"
 
 namespace iw::cli {
 
-bool StartsWithPngSignature(const std::string& path);
-
-// A PNG picture (any size) through our codec; prints the reason on failure.
-bool LoadPicture(const std::string& path, c32bppDIB& picture);
-
 // Writes a PNG stream as the whole of `file`; prints the reason on failure.
 bool WritePngFile(const std::string& file, const std::vector<std::uint8_t>& stream);
+// Encodes `picture` as a PNG file; prints the reason on failure.
+bool WritePicturePng(const std::string& file, const RgbaBuffer& picture);
 
 // The picture format by the file's first bytes (Unknown when it cannot be read).
 PictureFormat PictureFormatOfFile(const std::string& path);
@@ -30,6 +26,10 @@ bool IsPictureFile(const std::string& path);
 // Any picture the program reads (an icon file gives its largest image), through the core
 // and Qt's readers; prints the reason on failure.
 bool LoadPictureInput(const std::string& path, RgbaBuffer& picture, CliContext& context);
+
+// Tells the user why `path` cannot be read, as the icon reader words it (a renamed
+// picture, or a corrupt file); says so when it is in fact an icon. Returns false.
+bool ReportUnreadableInput(const std::string& path, CliContext& context);
 
 // An icon, cursor or animated cursor, or a picture as one 32-bit image. A picture larger
 // than 256 x 256 is resampled to fit inside 256 x 256 with its aspect kept (and says so).

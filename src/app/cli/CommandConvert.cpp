@@ -26,7 +26,8 @@ constexpr std::string_view kHelp =
     "  .cur   one image (--index N, default 0) with the set's hotspot or --hotspot X,Y\n"
     "  .ani   every image as a frame; --rate, --name, --artist and --sequence set the\n"
     "         frames' rate in jiffies (1/60 s), the name, the artist and the play order\n"
-    "  .png   (with a PNG input) the picture decoded and encoded again by Iconwright's codec\n"
+    "  .png   a picture decoded and written again as PNG by Iconwright's codec (an icon\n"
+    "         gives its largest image; use extract for every image)\n"
     "\n"
     "Exit status: 0 written, 1 the input could not be read or OUT not written, 2 usage error.\n";
 
@@ -35,12 +36,12 @@ bool IsPngPath(const std::string& path) {
                                path.compare(path.size() - 4, 4, ".PNG") == 0);
 }
 
-int ReencodePng(const std::string& in, const std::string& out) {
-    c32bppDIB picture;
-    if (!LoadPicture(in, picture)) return kExitFailed;
-    std::vector<std::uint8_t> stream;
-    picture.SaveToStream_PNG(stream);
-    return WritePngFile(out, stream) ? kExitOk : kExitFailed;
+// A picture decoded and encoded again: at its own size, whatever it is.
+int ReencodePicture(const std::string& in, const std::string& out) {
+    CliContext context;
+    RgbaBuffer picture;
+    if (!LoadPictureInput(in, picture, context)) return kExitFailed;
+    return WritePicturePng(out, picture) ? kExitOk : kExitFailed;
 }
 
 // The formats of the template called `name`, or a message and false.
@@ -97,12 +98,7 @@ int RunConvert(const Args& args) {
             return UsageError("OUT must end in .ico, .cur or .ani", kUsage);
         return ConvertWithTemplate(in, out, options);
     }
-    if (IsPngPath(out)) {
-        if (!StartsWithPngSignature(in)) {
-            return UsageError("a .png output needs a PNG input (use extract for icons)", kUsage);
-        }
-        return ReencodePng(in, out);
-    }
+    if (IsPngPath(out)) return ReencodePicture(in, out);
     if (OutputKind(out).empty())
         return UsageError("OUT must end in .ico, .cur, .ani or .png", kUsage);
 

@@ -38,14 +38,13 @@ int RunExtract(const Args& args) {
         return kExitFailed;
     }
 
-    if (StartsWithPngSignature(files[0])) {
-        c32bppDIB picture;
-        std::vector<std::uint8_t> stream;
-        if (!LoadPicture(files[0], picture)) return kExitFailed;
-        picture.SaveToStream_PNG(stream);
-        return WritePngFile((dir / "0.png").string(), stream) ? kExitOk : kExitFailed;
-    }
     CliContext context;
+    // A picture is written whole, at its own size.
+    if (IsPictureFile(files[0])) {
+        RgbaBuffer picture;
+        if (!LoadPictureInput(files[0], picture, context)) return kExitFailed;
+        return WritePicturePng((dir / "0.png").string(), picture) ? kExitOk : kExitFailed;
+    }
     IconSet set;
     if (!LoadInputSet(files[0], set, context)) return kExitFailed;
     const ExportResult result = ExportImagesPng(set, dir);

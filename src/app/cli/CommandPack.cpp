@@ -4,6 +4,7 @@
 
 #include "CliInput.h"
 #include "Commands.h"
+#include "document/io/IconFileReader.h"
 #include "document/io/PictureImport.h"
 
 namespace iw::cli {
@@ -84,9 +85,14 @@ int RunPack(const Args& args) {
     IconSet set;
     set.mode = FileModeFromPath(out);
     for (const PackItem& item : items) {
-        c32bppDIB picture;
-        if (!LoadPicture(item.path, picture)) return kExitFailed;
-        if (AddPictureImage(set, picture, item.bitCount, item.png) < 0) {
+        if (!IsPictureFile(item.path)) {
+            IconSet probe;
+            if (!ReadIconFile(item.path, probe, context.Core())) return kExitFailed;
+            return UsageError(item.path + " is an icon file, not a picture", kUsage);
+        }
+        RgbaBuffer picture;
+        if (!LoadPictureInput(item.path, picture, context)) return kExitFailed;
+        if (AddRgbaImage(set, picture, item.bitCount, item.png) < 0) {
             std::cerr << "iconwright-cli: " << item.path << ": the picture is " << picture.Width()
                       << " x " << picture.Height() << "; icon images are at most 256 x 256\n";
             return kExitFailed;

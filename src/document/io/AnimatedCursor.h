@@ -9,6 +9,7 @@
 //   "LIST" size "fram" ("icon" size <one-image cursor file>) per frame
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -27,8 +28,11 @@ bool ReadAnimationChunks(std::span<const std::uint8_t> file, IconSet& set);
 std::vector<int> ParseSequence(const std::string& text);
 std::string FormatSequence(const std::vector<int>& frames);
 
-// The whole ANI file of the set: every image a frame with the set's hotspot.
-std::vector<std::uint8_t> BuildAnimatedCursor(const IconSet& set, CoreContext& context);
+// The whole ANI file of the set: every image a frame with the set's hotspot, stored as
+// a bitmap (a PNG-compressed image as a 32-bit one). Nothing when an image cannot be
+// written.
+std::optional<std::vector<std::uint8_t>> BuildAnimatedCursor(const IconSet& set,
+                                                             CoreContext& context);
 bool WriteAnimatedCursor(const std::string& path, const IconSet& set, CoreContext& context);
 
 }  // namespace iw

@@ -53,6 +53,22 @@ struct ChunkView {
     std::span<const std::uint8_t> data;
 };
 
+// A chunk header at `at` whose tag is printable and whose data lies before `end`.
+bool ChunkFitsAt(std::span<const std::uint8_t> file, std::size_t at, std::size_t end) {
+    if (!RangeFits(at, 8, end)) return false;
+    const bool printable =
+        std::all_of(file.begin() + static_cast<long>(at), file.begin() + static_cast<long>(at) + 4,
+                    [](std::uint8_t c) { return c >= 0x20 && c < 0x7F; });
+    return printable && RangeFits(at + 8, LoadLE32(file.data() + at + 4), end);
+}
+
+// Some writers leave out the pad byte after a chunk of odd size. A pad byte is 0; when the
+// byte is not, and a chunk fits right there but not one byte further on, the pad is missing.
+bool PadByteMissing(std::span<const std::uint8_t> file, std::size_t at, std::size_t end) {
+    return at < end && file[at] != 0 && ChunkFitsAt(file, at, end) &&
+           !ChunkFitsAt(file, at + 1, end);
+}
+
 // Walks the chunks in [begin, end); false when a chunk runs past `end`. A tail too short
 // for a chunk header ends the walk.
 template <typename Visit>
@@ -63,7 +79,8 @@ bool WalkChunks(std::span<const std::uint8_t> file, std::size_t begin, std::size
         const std::uint32_t size = LoadLE32(file.data() + at + 4);
         if (!RangeFits(at + 8, size, end)) return false;
         if (!visit(at, file.subspan(at + 8, size))) return false;
-        at += 8 + std::size_t{size} + (size & 1u);
+        at += 8 + std::size_t{size};
+        if ((size & 1u) && !PadByteMissing(file, at, end)) ++at;
         if (at > end) break;  // the pad byte of the last chunk may be missing
     }
     return true;
@@ -120,17 +137,19 @@ bool ReadAnimationChunks(std::span<const std::uint8_t> file, IconSet& set) {
         WalkChunks(file, 12, file.size(), [&](std::size_t at, std::span<const std::uint8_t> data) {
             if (TagAt(file, at, "LIST") && data.size() >= 4) {
                 if (std::memcmp(data.data(), "INFO", 4) == 0) {
-                    return WalkChunks(data, 4, data.size(),
-                                      [&](std::size_t sub, std::span<const std::uint8_t> text) {
-                                          std::string value(text.begin(), text.end());
-                                          if (auto z = value.find('\0'); z != std::string::npos) {
-                                              value.resize(z);
-                                          }
-                                          if (TagAt(data, sub, "INAM")) set.properties.name = value;
-                                          if (TagAt(data, sub, "IART"))
-                                              set.properties.artist = value;
-                                          return true;
-                                      });
+                    // A sub-chunk that cannot be walked ends the list: the texts before it
+                    // stay, and so does everything else in the file.
+                    WalkChunks(data, 4, data.size(),
+                               [&](std::size_t sub, std::span<const std::uint8_t> text) {
+                                   std::string value(text.begin(), text.end());
+                                   if (auto z = value.find('\0'); z != std::string::npos) {
+                                       value.resize(z);
+                                   }
+                                   if (TagAt(data, sub, "INAM")) set.properties.name = value;
+                                   if (TagAt(data, sub, "IART")) set.properties.artist = value;
+                                   return true;
+                               });
+                    return true;
                 }
                 if (std::memcmp(data.data(), "fram", 4) == 0) ReadFrameHotspot(data, chunks);
             } else if (TagAt(file, at, "anih") && data.size() >= 32) {

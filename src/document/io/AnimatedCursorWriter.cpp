@@ -41,7 +41,7 @@ Bytes WordsChunkData(const std::vector<std::uint32_t>& words) {
 
 }  // namespace
 
-Bytes BuildAnimatedCursor(const IconSet& set, CoreContext& context) {
+std::optional<Bytes> BuildAnimatedCursor(const IconSet& set, CoreContext& context) {
     const int frames = set.Count();
     std::vector<int> sequence;
     if (set.animation.sequenceInUse) {
@@ -94,7 +94,9 @@ Bytes BuildAnimatedCursor(const IconSet& set, CoreContext& context) {
     Bytes frameList;
     AppendTag(frameList, "fram");
     for (int i = 0; i < frames; ++i) {
-        AppendChunk(frameList, "icon", BuildCursorFile(set, i, p.hotspotX, p.hotspotY, context));
+        const std::optional<Bytes> frame = BuildCursorFile(set, i, p.hotspotX, p.hotspotY, context);
+        if (!frame) return std::nullopt;
+        AppendChunk(frameList, "icon", *frame);
         context.progress.SetProgress(i + 1, frames);
         context.progress.Yield();
     }
@@ -109,11 +111,10 @@ Bytes BuildAnimatedCursor(const IconSet& set, CoreContext& context) {
 }
 
 bool WriteAnimatedCursor(const std::string& path, const IconSet& set, CoreContext& context) {
+    const std::optional<Bytes> bytes = BuildAnimatedCursor(set, context);
+    if (!bytes) return false;
     AtomicFile file;
-    if (!file.Open(path)) return false;
-    Bytes bytes = BuildAnimatedCursor(set, context);
-    file.Write(bytes.data(), bytes.size());
-    return file.Commit();
+    return file.Open(path) && file.Write(bytes->data(), bytes->size()) && file.Commit();
 }
 
 }  // namespace iw

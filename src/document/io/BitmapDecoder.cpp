@@ -114,7 +114,7 @@ bool DecodeBitmapEntry(std::span<const std::uint8_t> file, std::size_t offset, I
     image.info.widthMinus1 = static_cast<std::int16_t>(width - 1);
     image.info.heightMinus1 = static_cast<std::int16_t>(height - 1);
     image.info.png = 0;
-    if (!ico::IsSupportedBitCount(bitCount)) return true;  // blank image
+    if (!ico::IsSupportedBitCount(bitCount)) return false;  // blank
     image.info.bitCount = static_cast<std::int16_t>(bitCount);
 
     const int paletteEntries = bitCount <= 8 ? 1 << bitCount : 0;

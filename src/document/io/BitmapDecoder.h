@@ -19,13 +19,15 @@ int HalvedBitmapHeight(std::int64_t storedHeight);
 bool BitmapSidesFit(std::int64_t width, std::int64_t storedHeight);
 
 // Reads the header at `offset` of `file`. When its sides fit, sets the image's fields 0 and 1
-// from the header (x extent from its width, y extent from its halved height), field 4 to 0
-// and field 2 to the header's bit count, then decodes colour, alpha and mask for bit counts
-// 1, 4, 8, 24 and 32. Any other bit count leaves the image blank.
+// from the header (x extent from its width, y extent from its halved height) and field 4 to
+// 0; then, for bit counts 1, 4, 8, 24 and 32, sets field 2 and decodes colour, alpha and
+// mask.
 //
 // Data that lies outside the file is never read: rows (or the parts of rows) that are
-// missing stay blank, and missing mask rows count as unset. Returns false when the header
-// itself cannot be used (then the image is untouched).
+// missing stay blank, and missing mask rows count as unset. Returns false when the image
+// could not be decoded: the header's sides do not fit (the image is untouched) or its bit
+// count is none of the five (the image is blank with the header's sides; field 2 is left
+// to the caller).
 bool DecodeBitmapEntry(std::span<const std::uint8_t> file, std::size_t offset, IconImage& image);
 
 }  // namespace iw

@@ -40,6 +40,9 @@ void WriteMaskRows(const IconImage& image, const BitmapGeometry& g, std::uint8_t
 
 void WriteTrueColorRows(const IconImage& image, const BitmapGeometry& g, std::uint8_t* start) {
     const int bytesPerPixel = g.bitCount / 8;
+    // An image of another depth written with 32 bits (a PNG-compressed one in a cursor)
+    // shows as it would in its PNG stream: opaque, but where a marker stands.
+    const bool alphaPlane = image.info.bitCount == 32;
     ForEachStoredRow(g, start, g.colorStride, [&](int y, std::uint8_t* row) {
         auto colors = image.Row(y, IconImage::ColorPlane);
         auto alphas = image.Row(y, IconImage::AlphaPlane);
@@ -53,8 +56,10 @@ void WriteTrueColorRows(const IconImage& image, const BitmapGeometry& g, std::ui
                 p[1] = static_cast<std::uint8_t>(GreenOf(c));
                 p[2] = static_cast<std::uint8_t>(RedOf(c));
             }
-            if (bytesPerPixel == 4)
-                p[3] = static_cast<std::uint8_t>(alphas[static_cast<std::size_t>(x)]);
+            if (bytesPerPixel == 4) {
+                p[3] = alphaPlane ? static_cast<std::uint8_t>(alphas[static_cast<std::size_t>(x)])
+                                  : (IsMarker(c) ? 0 : 255);
+            }
         }
     });
 }
@@ -81,12 +86,13 @@ void WritePalette(const IndexedPixels& indexed, std::uint8_t* out) {
 
 }  // namespace
 
-BitmapGeometry GeometryFor(const IconInfo& info) {
+BitmapGeometry GeometryFor(const IconInfo& info, int bitCount) {
     BitmapGeometry g;
     g.width = info.heightMinus1 + 1;
     g.height = info.widthMinus1 + 1;
-    g.bitCount = info.bitCount;
-    g.paletteBytes = info.bitCount <= 8 ? (std::size_t{1} << info.bitCount) * 4 : 0;
+    g.bitCount = bitCount;
+    g.paletteBytes =
+        bitCount == 1 || bitCount == 4 || bitCount == 8 ? (std::size_t{1} << bitCount) * 4 : 0;
     g.colorStride = ico::RowStride(g.width, g.bitCount);
     g.maskStride = ico::RowStride(g.width, 1);
     return g;
@@ -103,9 +109,8 @@ std::vector<std::uint8_t> EncodeBitmapHeader(const BitmapGeometry& g) {
     return header;
 }
 
-std::vector<std::uint8_t> EncodeBitmapData(const IconImage& image, int imageIndex,
-                                           IProgressSink& progress) {
-    const BitmapGeometry g = GeometryFor(image.info);
+std::vector<std::uint8_t> EncodeBitmapData(const IconImage& image, const BitmapGeometry& g,
+                                           int imageIndex, IProgressSink& progress) {
     std::vector<std::uint8_t> data(g.paletteBytes + g.ColorAndMaskBytes(), 0);
     std::uint8_t* colorStart = data.data() + g.paletteBytes;
     std::uint8_t* maskStart = colorStart + g.colorStride * static_cast<std::size_t>(g.height);

@@ -31,17 +31,21 @@ struct BitmapGeometry {
     std::size_t EntryBytes() const { return 40 + paletteBytes + ColorAndMaskBytes(); }
 };
 
-BitmapGeometry GeometryFor(const IconInfo& info);
+// The layout of an image with these fields written with `bitCount` bits (1, 4, 8, 24 or
+// 32; its own, or 32 for a PNG-compressed image stored as a bitmap).
+BitmapGeometry GeometryFor(const IconInfo& info, int bitCount);
 
 // The 40-byte bitmap information header.
 std::vector<std::uint8_t> EncodeBitmapHeader(const BitmapGeometry& geometry);
 
-// Palette, colour rows and mask rows (everything after the header). Transparent pixels
-// are written with colour bits 0 and mask 1, inverting pixels with all colour bits set
-// and mask 1, every other pixel with its colour (or palette index) and mask 0. For 8 bits
-// the palette is built for the image (with the status text on `progress`); `imageIndex` is
-// the number shown there.
-std::vector<std::uint8_t> EncodeBitmapData(const IconImage& image, int imageIndex,
-                                           IProgressSink& progress);
+// Palette, colour rows and mask rows (everything after the header) laid out as
+// `geometry`. Transparent pixels are written with colour bits 0 and mask 1, inverting
+// pixels with all colour bits set and mask 1, every other pixel with its colour (or palette
+// index) and mask 0. At 32 bits the alpha is the alpha plane; for an image of another depth
+// it is 0 where a marker stands and 255 elsewhere. For 8 bits the palette is built for the
+// image (with the status text on `progress`); `imageIndex` is the number shown there. A
+// depth below 24 must be the image's own.
+std::vector<std::uint8_t> EncodeBitmapData(const IconImage& image, const BitmapGeometry& geometry,
+                                           int imageIndex, IProgressSink& progress);
 
 }  // namespace iw

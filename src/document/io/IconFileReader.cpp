@@ -48,48 +48,49 @@ void ReportFailure(IconReadStatus status, std::span<const std::uint8_t> file,
 
 }  // namespace
 
-IconReadResult ReadIconData(std::span<const std::uint8_t> file, const std::string& path,
+IconReadResult ReadIconData(std::span<const std::uint8_t> FileBytes, const std::string& path,
                             IconSet& set, IProgressSink& progress) {
     ResetForReading(set, path);
     IconReadResult result;
-    detail::EntryOffsets offsets;
+    detail::EntryTable entries;
     if (UpperExtension3(path) == "ICO") {
-        result.status = detail::ReadDirectory(file, set, offsets);
+        result.status = detail::ReadDirectory(FileBytes, set, entries);
     } else {
         progress.SetStatus(GetText(texts::GettingIconInformation));
-        result.status = detail::FindBitmapHeaders(file, set, offsets);
+        result.status = detail::FindBitmapHeaders(FileBytes, set, entries);
     }
     if (!result.Ok()) {
         set.Clear();
         progress.SetStatus("");
         return result;
     }
-    detail::DecodeImages(file, offsets, set, progress);
+    detail::DecodeImages(FileBytes, entries, set, progress);
     result.nonStandard16Converted = detail::ConvertNonStandard16Images(set);
-    if (set.mode == FileMode::ANI && !ReadAnimationChunks(file, set)) {
+    if (set.mode == FileMode::ANI && !ReadAnimationChunks(FileBytes, set)) {
         set.Clear();
         progress.SetStatus("");
         result.status = IconReadStatus::AnimationCorrupt;
         return result;
     }
-    if (set.mode == FileMode::CUR) detail::ReadCursorHotspot(file, set);
+    if (set.mode == FileMode::CUR) detail::ReadCursorHotspot(FileBytes, set);
     progress.SetStatus("");
     return result;
 }
 
 bool ReadIconFile(const std::string& path, IconSet& set, CoreContext& context,
                   const IconReadLimits& limits) {
-    std::vector<std::uint8_t> file;
+    // The whole file, erased when this returns: images keep what they need of it.
+    std::vector<std::uint8_t> FileBytes;
     IconReadResult result;
-    result.status = LoadWholeFile(path, limits, file);
+    result.status = LoadWholeFile(path, limits, FileBytes);
     if (result.Ok()) {
-        result = ReadIconData(file, path, set, context.progress);
+        result = ReadIconData(FileBytes, path, set, context.progress);
     } else {
         ResetForReading(set, path);
     }
     if (!result.Ok()) {
         set.Clear();
-        ReportFailure(result.status, file, path, context.messages);
+        ReportFailure(result.status, FileBytes, path, context.messages);
         return false;
     }
     if (result.nonStandard16Converted) {

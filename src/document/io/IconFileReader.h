@@ -40,7 +40,7 @@ struct IconReadLimits {
 // Fills `set` from a whole file already in memory; `path` supplies the extension and thereby
 // the reader and the set's mode. Reports progress ("Loading icon 3 of 12.") and yields
 // between images; shows no messages. On failure the set is left empty.
-IconReadResult ReadIconData(std::span<const std::uint8_t> file, const std::string& path,
+IconReadResult ReadIconData(std::span<const std::uint8_t> FileBytes, const std::string& path,
                             IconSet& set, IProgressSink& progress);
 
 // The entry point: reads the file at `path` whole, fills `set`, and tells the user about a

@@ -140,7 +140,7 @@ PictureLoadStatus LoadPictureFile(const std::filesystem::path& file,
         status = DecodePicture(bytes, options, messages, picture);
         if (DetectPictureFormat(bytes) == PictureFormat::Psd) return status;
     }
-    if (status != PictureLoadStatus::Ok) {
+    if (status != PictureLoadStatus::Ok && options.reportFailure) {
         messages.ShowMessage(texts::CorruptFile.key,
                              GetText(texts::CorruptFile) + "\n" + file.string(),
                              texts::kProgramTitle, MessageType::Exclamation, false);

@@ -26,6 +26,9 @@ struct PictureLoadOptions {
     DecodeLimits limits = PictureLimits();
     std::uint64_t maxFileBytes = std::uint64_t{512} << 20;
     IPictureDecoder* decoder = nullptr;  // for the formats the core does not read itself
+    // False: a failure other than a Photoshop one is returned without a message, for a
+    // caller that words it itself.
+    bool reportFailure = true;
 };
 
 // Decodes a picture in memory. A Photoshop file in a colour model other than RGB asks
@@ -37,7 +40,7 @@ PictureLoadStatus DecodePicture(std::span<const std::uint8_t> bytes,
                                 RgbaBuffer& picture);
 
 // Reads `file` whole and decodes it. Photoshop files are reported as above; any other
-// failure shows "CorruptFile" followed by the path.
+// failure shows "CorruptFile" followed by the path (unless options.reportFailure is off).
 PictureLoadStatus LoadPictureFile(const std::filesystem::path& file,
                                   const PictureLoadOptions& options, MessageService& messages,
                                   RgbaBuffer& picture);

@@ -6,7 +6,7 @@
 namespace iw {
 
 std::vector<std::uint8_t> EncodePngEntry(const IconImage& image) {
-    if (!image.originalPng.empty()) return image.originalPng;
+    if (!image.OriginalPng().empty()) return image.OriginalPng();
     std::vector<std::uint8_t> stream;
     if (!EncodePngStream(image.info.Width(), image.info.Height(), ImageToRgba(image), stream)) {
         return {};
