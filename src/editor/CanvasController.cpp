@@ -18,13 +18,16 @@ ToolContext CanvasController::Context(IconImage& image) {
 
 void CanvasController::AddUndo() {
     host_.AddUndo();
-    if (stroke_) stroke_->recorded = true;
+    if (stroke_) stroke_->changed = true;
 }
 
 void CanvasController::Apply(IconImage& image, const ToolResult& result) {
-    if (!result.imageChanged) return;
-    image.originalPng.clear();
-    events_.Notify(&IEditorObserver::ImageChanged);
+    if (result.imageChanged) {
+        image.originalPng.clear();
+        if (stroke_) stroke_->changed = true;
+        events_.Notify(&IEditorObserver::ImageChanged);
+    }
+    if (result.selectionChanged) events_.Notify(&IEditorObserver::SelectionChanged);
 }
 
 void CanvasController::PointerPress(Point cell, MouseButton button, KeyModifiers modifiers) {
@@ -53,9 +56,9 @@ void CanvasController::PointerRelease(Point cell, KeyModifiers modifiers) {
     PointerMove(cell, modifiers);
     ToolContext context = Context(*image);
     Apply(*image, stroke_->tool->Release(context, {cell, stroke_->button, modifiers}));
-    const bool recorded = stroke_->recorded;
+    const bool changed = stroke_->changed;
     stroke_.reset();
-    if (recorded) host_.StrokeFinished();
+    if (changed) host_.StrokeFinished();
 }
 
 bool CanvasController::KeyPress(const KeyEvent& event) {
@@ -78,13 +81,35 @@ std::string CanvasController::StatusTextAt(Point cell) const {
     return image ? PixelStatusText(*image, cell.x, cell.y) : std::string();
 }
 
+std::optional<CellRect> CanvasController::RubberBand() const {
+    return stroke_ ? stroke_->tool->RubberBand() : std::nullopt;
+}
+
 bool CanvasController::DropFloatingSelection() {
     IconImage* image = host_.EditedImage();
     if (!floating_ || !image) return false;
     floating_->Drop(*image, tools_.State().Selection);
     floating_.reset();
-    Apply(*image, {true});
+    Apply(*image, {true, true});
+    host_.StrokeFinished();
     return true;
+}
+
+void CanvasController::Float(std::unique_ptr<IFloatingSelection> floating) {
+    DropFloatingSelection();
+    floating_ = std::move(floating);
+    events_.Notify(&IEditorObserver::SelectionChanged);
+}
+
+bool CanvasController::DiscardFloatingSelection() {
+    if (!floating_) return false;
+    floating_.reset();
+    events_.Notify(&IEditorObserver::SelectionChanged);
+    return true;
+}
+
+void CanvasController::ToolSwitched(ToolId, ToolId) {
+    DropFloatingSelection();
 }
 
 void CanvasController::CancelStroke() {
@@ -94,7 +119,7 @@ void CanvasController::CancelStroke() {
 
 void CanvasController::Reset() {
     CancelStroke();
-    floating_.reset();
+    if (floating_) DiscardFloatingSelection();
 }
 
 }  // namespace iw

@@ -20,11 +20,12 @@ class ICanvasHost {
     virtual IconImage* EditedImage() = 0;
     // Records the edited image before a change (Undo can bring it back).
     virtual void AddUndo() = 0;
-    // A stroke that recorded an undo snapshot has ended: the image has changed.
+    // A stroke that recorded an undo snapshot or changed the image has ended, or a floating
+    // selection was dropped: the image has changed.
     virtual void StrokeFinished() = 0;
 };
 
-class CanvasController final : private IUndoRecorder {
+class CanvasController final : private IUndoRecorder, public IToolSwitchListener {
   public:
     CanvasController(ICanvasHost& host, ToolControls& tools, IRandomSource& random,
                      EditorEvents& events, ToolSet toolSet = StandardTools());
@@ -43,11 +44,22 @@ class CanvasController final : private IUndoRecorder {
     CursorHint CursorAt(Point cell) const;
     std::string StatusTextAt(Point cell) const;
 
-    // The picture floating above the image (Select, Text), or nullptr.
+    // The picture floating above the image (selected, pasted or placed text), or nullptr.
+    // The window paints it over the image and outlines FloatingSelection()->Rect().
     const IFloatingSelection* FloatingSelection() const { return floating_.get(); }
+    // The rectangle the Select tool is dragging out (clipped to the image), shown as a
+    // marching outline; nothing when no rectangle is being dragged.
+    std::optional<CellRect> RubberBand() const;
     // Paints the floating selection into the image (opaque or transparent as chosen).
-    // Undo, Repeat and switching images do this first. False when there was none.
+    // Undo, Repeat, switching images or tools, saving and AddUndo do this first. False
+    // when there was none.
     bool DropFloatingSelection();
+    // A new floating selection (paste, Select All, text); an old one is dropped first.
+    void Float(std::unique_ptr<IFloatingSelection> floating);
+    // Throws the floating selection away (Cut, Delete). False when there was none.
+    bool DiscardFloatingSelection();
+    // Another tool: the floating selection is dropped.
+    void ToolSwitched(ToolId from, ToolId to) override;
     // Cuts a stroke short (another image).
     void CancelStroke();
     // A new set: the stroke is cut short and a floating selection let go, since the image
@@ -59,7 +71,7 @@ class CanvasController final : private IUndoRecorder {
         ITool* tool;
         MouseButton button;
         Point last;
-        bool recorded;  // it recorded an undo snapshot
+        bool changed;  // it recorded an undo snapshot or changed the image
     };
 
     void AddUndo() override;

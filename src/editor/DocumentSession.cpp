@@ -201,6 +201,7 @@ bool DocumentSession::OpenEditRequest(const std::string& requestFile) {
 // ---- Save -------------------------------------------------------------------------------
 
 bool DocumentSession::WriteTo(const std::string& path) {
+    host_.FinishEditing();
     CoreContext context = Context();
     const DocumentWrite how{set_.mode, host_.CurrentIcon()};
     if (!services_.documents.Write(path, set_, how, context)) return false;

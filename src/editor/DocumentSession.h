@@ -26,6 +26,8 @@ class IDocumentHost {
     virtual void SetReplaced(const std::vector<TemplateEntry>* formats) = 0;
     // The image a cursor file is written from.
     virtual int CurrentIcon() const = 0;
+    // Before a save: what is still floating above the image goes into it.
+    virtual void FinishEditing() = 0;
 };
 
 class DocumentSession {

@@ -13,7 +13,9 @@ Editor::Editor(EditorServices services, ToolSet tools)
       canvas_(*this, tools_, services.random, events_, std::move(tools)),
       inspector_(set_, settings_.Messages(), *this, events_,
                  DefaultRequiredFormats(settings_.Templates())),
-      session_(set_, history_, settings_, services_, *this, events_) {}
+      session_(set_, history_, settings_, services_, *this, events_) {
+    tools_.SetSwitchListener(&canvas_);
+}
 
 // ---- The image being edited -------------------------------------------------------------
 
@@ -54,6 +56,8 @@ void Editor::RedoLayout() {
 void Editor::AddUndo() {
     IconImage* image = EditedImage();
     if (!image) return;
+    // A change to the image takes a floating selection with it.
+    canvas_.DropFloatingSelection();
     history_.AddUndo(*image);
     Notify(&IEditorObserver::UndoStateChanged);
 }

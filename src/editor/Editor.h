@@ -70,7 +70,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void SelectImage(int index) override;
 
     // ---- Undo --------------------------------------------------------------------------
-    // Records the current image before a change made outside the canvas (effects, paste).
+    // Records the current image before a change made outside the canvas (effects); a
+    // floating selection is dropped into the image first.
     void AddUndo() override;
     // Undo and Repeat drop a floating selection into the image first.
     bool Undo();
@@ -118,6 +119,7 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void SetReplaced(const std::vector<TemplateEntry>* formats) override;
     void ImagesChanged(int current, bool moved) override;
     void RedoLayout() override;
+    void FinishEditing() override { canvas_.DropFloatingSelection(); }
     void ShowCurrentImage();
     void ResetUndosRepeats();
     // Undo or Repeat, when offered: drop a floating selection, then the step.

@@ -28,7 +28,9 @@ std::optional<int> ParseChannelEntry(std::string_view text) {
 }
 
 void ToolControls::SelectTool(ToolId tool) {
+    const ToolId from = state_.CurrentTool;
     state_.CurrentTool = tool;
+    if (switchListener_ && from != tool) switchListener_->ToolSwitched(from, tool);
     ToolChanged();
 }
 
