@@ -11,6 +11,7 @@ Editor::Editor(EditorServices services, ToolSet tools)
       tools_(events_),
       view_(events_),
       canvas_(*this, tools_, services.random, events_, std::move(tools)),
+      edit_(*this, canvas_, tools_, settings_.Messages(), events_),
       inspector_(set_, settings_.Messages(), *this, events_,
                  DefaultRequiredFormats(settings_.Templates())),
       session_(set_, history_, settings_, services_, *this, events_) {

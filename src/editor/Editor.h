@@ -5,6 +5,7 @@
 // - View(): zoom, fit and grid;
 // - Tools(): the current tool, its options and the colours;
 // - Canvas(): pointer and key events for the current tool, the floating selection;
+// - Edit(): cut, copy, paste, delete, select all and placed text;
 // - Inspector(): the inspector panel and its fix;
 // - Settings(): the settings and message stores, the window's settings, the templates.
 // The Editor itself holds which image is edited and the undo history, wires the parts
@@ -17,6 +18,7 @@
 #include "document/model/IconSet.h"
 #include "editor/CanvasController.h"
 #include "editor/DocumentSession.h"
+#include "editor/EditCommands.h"
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
 #include "editor/InspectorController.h"
@@ -96,6 +98,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     const ToolControls& Tools() const { return tools_; }
     CanvasController& Canvas() { return canvas_; }
     const CanvasController& Canvas() const { return canvas_; }
+    EditCommands& Edit() { return edit_; }
+    const EditCommands& Edit() const { return edit_; }
     InspectorController& Inspector() { return inspector_; }
     const InspectorController& Inspector() const { return inspector_; }
     ProgramSettings& Settings() { return settings_; }
@@ -135,6 +139,7 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     ToolControls tools_;
     ViewController view_;
     CanvasController canvas_;
+    EditCommands edit_;
     InspectorController inspector_;
     DocumentSession session_;
     AdjustmentsRelay adjustments_{*this};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/DepthConversion.h"
 #include "editor/PixelPlot.h"
 #include "imaging/Rounding.h"
 
@@ -10,13 +11,6 @@ namespace {
 
 bool HasAlpha(const IconImage& image) {
     return image.info.bitCount == 32;
-}
-
-// A cell's alpha as it shows: a transparent marker is fully transparent whatever plane 1
-// says; without an alpha plane every other cell is opaque.
-int ShownAlpha(const IconImage& image, int x, int y) {
-    if (image.Color(x, y) == TransparentColor) return 0;
-    return HasAlpha(image) ? std::clamp(image.Alpha(x, y), 0, 255) : 255;
 }
 
 // `top` (colour and alpha) laid over the 32-bit cell (x, y) of `image`.

@@ -1,0 +1,21 @@
+#include "editor/DepthConversion.h"
+
+#include <algorithm>
+
+#include "editor/PixelPlot.h"
+
+namespace iw {
+
+DepthPixel PixelForDepth(PackedColor color, int alpha, int bitCount) {
+    if (IsMarker(color)) return {color, 0};
+    if (bitCount == 32) return {color, std::clamp(alpha, 0, 255)};
+    if (alpha < 128) return {TransparentColor, 0};
+    return {ColorForDepth(color, bitCount), 255};
+}
+
+int ShownAlpha(const IconImage& image, int x, int y) {
+    if (image.Color(x, y) == TransparentColor) return 0;
+    return image.info.bitCount == 32 ? std::clamp(image.Alpha(x, y), 0, 255) : 255;
+}
+
+}  // namespace iw
