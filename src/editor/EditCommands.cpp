@@ -79,4 +79,12 @@ bool EditCommands::PasteFitted(const RgbaPicture& fitted, Point at) {
     return true;
 }
 
+bool EditCommands::PlaceText(const RgbaPicture& rendered) {
+    const IconImage* image = host_.EditedImage();
+    if (!image || !rendered.WellFormed()) return false;
+    const RgbaPicture fitted = FitToIconSide(rendered);
+    return PasteFitted(fitted, {std::max(0, (ImageWidth(*image) - fitted.width) / 2),
+                                std::max(0, (ImageHeight(*image) - fitted.height) / 2)});
+}
+
 }  // namespace iw

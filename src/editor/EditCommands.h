@@ -1,12 +1,12 @@
 #pragma once
-// The Edit menu's selection and clipboard commands. Each works on the image being edited
-// and leaves new pixels floating for the Select tool.
+// The Edit menu's selection and clipboard commands, and the placing of rendered text. Each
+// works on the image being edited and leaves new pixels floating for the Select tool.
 //
 // Choices made here:
 // - Cut and Copy take the floating selection, or the whole image when nothing floats.
 // - Delete throws the floating selection away (its hole stays; Undo brings it back), or
 //   clears the whole image to transparent when nothing floats.
-// - Paste and Select All switch to the Select tool and record an undo snapshot at
+// - Paste, Select All and text switch to the Select tool and record an undo snapshot at
 //   once, so Undo after the drop goes back to the image before them.
 
 #include "editor/CanvasController.h"
@@ -39,6 +39,9 @@ class EditCommands {
     // A picture already brought to at most 256 x 256 (FitToIconSide) floats at `at`, at the
     // image's depth. The one way a picture from outside comes onto the canvas.
     bool PasteFitted(const RgbaPicture& fitted, Point at);
+    // Text rendered by the window (in ForeColor with the current alpha) floats centred on
+    // the image, or from its top-left corner when it is larger. False for an empty picture.
+    bool PlaceText(const RgbaPicture& rendered);
 
   private:
     ICanvasHost& host_;

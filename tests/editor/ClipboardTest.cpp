@@ -1,4 +1,4 @@
-// Cut, copy, paste, delete, and select all: what goes onto the clipboard, what
+// Cut, copy, paste, delete, select all and placed text: what goes onto the clipboard, what
 // comes off it at each depth, the large-paste question, and undo round each.
 #include <gtest/gtest.h>
 
@@ -141,7 +141,25 @@ TEST_F(Clipboard, ALargePictureAsksFirstAndABrokenOneIsRefused) {
           RgbaPicture{-1, -4, {1, 2, 3, 4}}, RgbaPicture{1 << 30, 1 << 30, {}}}) {
         clipboard.held = broken;
         EXPECT_FALSE(edit.Paste(clipboard));
+        EXPECT_FALSE(edit.PlaceText(broken));
     }
+}
+
+TEST_F(Clipboard, TextFloatsCentredOrFromTheTopLeftAndSwitchesToSelect) {
+    Open(16, 1);
+    f.editor.Tools().SelectTool(ToolId::Text);
+    ASSERT_TRUE(edit.PlaceText(Picture(5, 4)));
+    EXPECT_EQ(f.editor.Tools().State().CurrentTool, ToolId::Select);
+    EXPECT_EQ(f.editor.Tools().Panel(), OptionPanel::Selection);
+    ASSERT_NE(Floating(), nullptr);
+    EXPECT_EQ(Floating()->Rect(), (CellRect{5, 6, 5, 4}));
+    EXPECT_EQ(Floating()->Pixels().Color(4, 3), PackColor(0, 0, 0));  // black or white only
+
+    f.editor.Tools().SelectTool(ToolId::Text);  // the next text drops the first
+    EXPECT_EQ(Floating(), nullptr);
+    ASSERT_TRUE(edit.PlaceText(Picture(40, 3)));
+    EXPECT_EQ(Floating()->Rect(), (CellRect{0, 6, 40, 3}));
+    EXPECT_EQ(Image().Color(5, 6), PackColor(0, 0, 0));
 }
 
 }  // namespace
