@@ -4,9 +4,14 @@
 
 namespace iw {
 
-CanvasController::CanvasController(ICanvasHost& host, ToolControls& tools, IRandomSource& random,
-                                   EditorEvents& events, ToolSet toolSet)
-    : host_(host), tools_(tools), random_(random), events_(events), toolSet_(std::move(toolSet)) {}
+CanvasController::CanvasController(ICanvasHost& host, ToolControls& tools, HotspotControl& hotspot,
+                                   IRandomSource& random, EditorEvents& events, ToolSet toolSet)
+    : host_(host),
+      tools_(tools),
+      hotspot_(hotspot),
+      random_(random),
+      events_(events),
+      toolSet_(std::move(toolSet)) {}
 
 ITool* CanvasController::CurrentTool() const {
     return toolSet_[static_cast<std::size_t>(tools_.State().CurrentTool)].get();
@@ -33,7 +38,7 @@ void CanvasController::Apply(IconImage& image, const ToolResult& result) {
 void CanvasController::PointerPress(Point cell, MouseButton button, KeyModifiers modifiers) {
     IconImage* image = host_.EditedImage();
     ITool* tool = CurrentTool();
-    if (!image || !tool || stroke_) return;
+    if (!image || stroke_ || hotspot_.Press(cell, *image) || !tool) return;
     stroke_ = Stroke{tool, button, cell, false};
     ToolContext context = Context(*image);
     Apply(*image, tool->Press(context, {cell, button, modifiers}));
@@ -64,6 +69,10 @@ void CanvasController::PointerRelease(Point cell, KeyModifiers modifiers) {
 bool CanvasController::KeyPress(const KeyEvent& event) {
     IconImage* image = host_.EditedImage();
     ITool* tool = CurrentTool();
+    if (hotspot_.Setting() && event.key == CanvasKey::Escape) {
+        hotspot_.Cancel();
+        return true;
+    }
     if (!image || !tool) return false;
     ToolContext context = Context(*image);
     const std::optional<ToolResult> result = tool->Key(context, event);
@@ -110,6 +119,7 @@ bool CanvasController::DiscardFloatingSelection() {
 
 void CanvasController::ToolSwitched(ToolId, ToolId) {
     DropFloatingSelection();
+    hotspot_.Cancel();
 }
 
 void CanvasController::CancelStroke() {
@@ -120,6 +130,7 @@ void CanvasController::CancelStroke() {
 void CanvasController::Reset() {
     CancelStroke();
     if (floating_) DiscardFloatingSelection();
+    hotspot_.Cancel();
 }
 
 }  // namespace iw

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "editor/EditorObserver.h"
+#include "editor/HotspotControl.h"
 #include "editor/ToolControls.h"
 #include "editor/tools/StandardTools.h"
 
@@ -27,16 +28,19 @@ class ICanvasHost {
 
 class CanvasController final : private IUndoRecorder, public IToolSwitchListener {
   public:
-    CanvasController(ICanvasHost& host, ToolControls& tools, IRandomSource& random,
-                     EditorEvents& events, ToolSet toolSet = StandardTools());
+    CanvasController(ICanvasHost& host, ToolControls& tools, HotspotControl& hotspot,
+                     IRandomSource& random, EditorEvents& events,
+                     ToolSet toolSet = StandardTools());
 
     // Pointer events in image cells (ViewController::CanvasToImage). A stroke belongs to
     // the tool that took the press, until the release; another press meanwhile is ignored,
     // and so is a move that stays on its cell. The release first moves the tool to its cell.
+    // While the hotspot is being set, a press sets it instead.
     void PointerPress(Point cell, MouseButton button, KeyModifiers modifiers = {});
     void PointerMove(Point cell, KeyModifiers modifiers = {});
     void PointerRelease(Point cell, KeyModifiers modifiers = {});
-    // A key for the current tool; false when it has no use for it (the window passes it on).
+    // A key for the current tool (Escape also ends setting the hotspot); false when it has
+    // no use for it (the window passes it on).
     bool KeyPress(const KeyEvent& event);
     bool Pressed() const { return stroke_.has_value(); }
 
@@ -58,12 +62,12 @@ class CanvasController final : private IUndoRecorder, public IToolSwitchListener
     void Float(std::unique_ptr<IFloatingSelection> floating);
     // Throws the floating selection away (Cut, Delete). False when there was none.
     bool DiscardFloatingSelection();
-    // Another tool: the floating selection is dropped.
+    // Another tool: the floating selection is dropped, setting the hotspot ends.
     void ToolSwitched(ToolId from, ToolId to) override;
     // Cuts a stroke short (another image).
     void CancelStroke();
-    // A new set: the stroke is cut short and a floating selection let go, since the image
-    // it floated over is gone.
+    // A new set: the stroke is cut short, a floating selection let go, since the image it
+    // floated over is gone, and setting the hotspot ends.
     void Reset();
 
   private:
@@ -81,6 +85,7 @@ class CanvasController final : private IUndoRecorder, public IToolSwitchListener
 
     ICanvasHost& host_;
     ToolControls& tools_;
+    HotspotControl& hotspot_;
     IRandomSource& random_;
     EditorEvents& events_;
     ToolSet toolSet_;

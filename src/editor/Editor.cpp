@@ -10,7 +10,7 @@ Editor::Editor(EditorServices services, ToolSet tools)
       settings_(services.presenter, events_),
       tools_(events_),
       view_(events_),
-      canvas_(*this, tools_, services.random, events_, std::move(tools)),
+      canvas_(*this, tools_, hotspot_, services.random, events_, std::move(tools)),
       edit_(*this, canvas_, tools_, settings_.Messages(), events_),
       inspector_(set_, settings_.Messages(), *this, events_,
                  DefaultRequiredFormats(settings_.Templates())),

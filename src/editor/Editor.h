@@ -6,6 +6,7 @@
 // - Tools(): the current tool, its options and the colours;
 // - Canvas(): pointer and key events for the current tool, the floating selection;
 // - Edit(): cut, copy, paste, delete, select all and placed text;
+// - Hotspot(): Set Hotspot for cursors;
 // - Inspector(): the inspector panel and its fix;
 // - Settings(): the settings and message stores, the window's settings, the templates.
 // The Editor itself holds which image is edited and the undo history, wires the parts
@@ -21,6 +22,7 @@
 #include "editor/EditCommands.h"
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
+#include "editor/HotspotControl.h"
 #include "editor/InspectorController.h"
 #include "editor/ProgramSettings.h"
 #include "editor/ToolControls.h"
@@ -36,7 +38,10 @@ struct StartupResult {
     bool previousRunEndedCleanly = true;
 };
 
-class Editor final : private ICanvasHost, private IDocumentHost, private IInspectorHost {
+class Editor final : private ICanvasHost,
+                     private IDocumentHost,
+                     private IInspectorHost,
+                     private IHotspotHost {
   public:
     explicit Editor(EditorServices services, ToolSet tools = StandardTools());
     Editor(const Editor&) = delete;
@@ -100,6 +105,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     const CanvasController& Canvas() const { return canvas_; }
     EditCommands& Edit() { return edit_; }
     const EditCommands& Edit() const { return edit_; }
+    HotspotControl& Hotspot() { return hotspot_; }
+    const HotspotControl& Hotspot() const { return hotspot_; }
     InspectorController& Inspector() { return inspector_; }
     const InspectorController& Inspector() const { return inspector_; }
     ProgramSettings& Settings() { return settings_; }
@@ -124,6 +131,7 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void ImagesChanged(int current, bool moved) override;
     void RedoLayout() override;
     void FinishEditing() override { canvas_.DropFloatingSelection(); }
+    void HotspotMoved() override { session_.MarkModified(); }
     void ShowCurrentImage();
     void ResetUndosRepeats();
     // Undo or Repeat, when offered: drop a floating selection, then the step.
@@ -138,6 +146,7 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     UndoHistory history_;
     ToolControls tools_;
     ViewController view_;
+    HotspotControl hotspot_{set_, *this, events_};
     CanvasController canvas_;
     EditCommands edit_;
     InspectorController inspector_;

@@ -25,6 +25,8 @@ class IEditorObserver {
     // The floating selection appeared, moved, was dropped or thrown away, or the rubber band
     // changed: Canvas().FloatingSelection(), Canvas().RubberBand().
     virtual void SelectionChanged() {}
+    // The hotspot moved, or setting it began or ended: Hotspot().Position(), Setting().
+    virtual void HotspotChanged() {}
 };
 
 // The observers of one editor. Observers may come and go while an event is delivered.

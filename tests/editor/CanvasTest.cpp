@@ -1,5 +1,8 @@
-// The canvas handing its events to the tools: which tools record an undo snapshot.
+// The canvas handing its events to the tools: which tools record an undo snapshot; and the
+// Set Hotspot mode taking a click instead of the tool.
 #include <gtest/gtest.h>
+
+#include <functional>
 
 #include "EditorFakes.h"
 
@@ -24,6 +27,46 @@ TEST(Canvas, PaintingToolsRecordOneSnapshotAStrokeAndTheOthersNone) {
         EXPECT_EQ(f.observer.events["inspector"], paints ? 1 : 0) << static_cast<int>(tool);
         EXPECT_EQ(f.editor.Document().Unmodified(), !paints) << static_cast<int>(tool);
         EXPECT_FALSE(f.editor.Canvas().Pressed());
+    }
+}
+
+TEST(Canvas, SetHotspotTakesOneClickOnTheImageOfACursor) {
+    for (const char* name : {"a.ico", "a.cur", "a.ani"}) {
+        test::EditorFixture f;
+        ASSERT_TRUE(f.Open(test::SolidSet(16, 32, PackColor(9, 9, 9)), name));
+        HotspotControl& hotspot = f.editor.Hotspot();
+        const bool cursor = f.editor.Document().Mode() != FileMode::ICO;
+        EXPECT_EQ(hotspot.Offered(), cursor) << name;
+        EXPECT_EQ(hotspot.Begin(), cursor) << name;
+        EXPECT_EQ(hotspot.Position().has_value(), cursor) << name;
+        f.Stroke({{5, 6}});  // the pencil is the tool
+        EXPECT_EQ(f.editor.History().UndoCount(), cursor ? -1 : 0) << name;
+        EXPECT_EQ(f.editor.CurrentImage().Color(5, 6), cursor ? PackColor(9, 9, 9) : 0) << name;
+        EXPECT_FALSE(hotspot.Setting());
+        if (!cursor) continue;
+        EXPECT_EQ(hotspot.Position(), (Point{5, 6}));
+        EXPECT_FALSE(f.editor.Document().Unmodified());
+
+        // Escape, another tool and a click beside the image end it without a change.
+        const std::function<void()> ends[] = {
+            [&] {
+                EXPECT_TRUE(f.editor.Canvas().KeyPress({CanvasKey::Escape, {}}));
+            },
+            [&] { f.editor.Tools().SelectTool(ToolId::Fill); },
+            [&] {
+                f.Stroke({{16, 2}});
+            },
+        };
+        for (const auto& end : ends) {
+            f.observer.events.clear();
+            ASSERT_TRUE(hotspot.Begin());
+            end();
+            EXPECT_FALSE(hotspot.Setting());
+            EXPECT_EQ(f.observer.events["hotspot"], 2);
+            EXPECT_EQ(f.observer.events["image"], 0);
+        }
+        EXPECT_EQ(hotspot.Position(), (Point{5, 6}));
+        EXPECT_FALSE(f.editor.Canvas().KeyPress({CanvasKey::Escape, {}}));
     }
 }
 

@@ -107,6 +107,7 @@ class RecordingObserver : public IEditorObserver {
     void InspectorChanged() override { ++events["inspector"]; }
     void RecentFilesChanged() override { ++events["recent"]; }
     void SelectionChanged() override { ++events["selection"]; }
+    void HotspotChanged() override { ++events["hotspot"]; }
     std::map<std::string, int> events;
 };
 
