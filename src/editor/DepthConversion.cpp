@@ -13,6 +13,20 @@ DepthPixel PixelForDepth(PackedColor color, int alpha, int bitCount) {
     return {ColorForDepth(color, bitCount), 255};
 }
 
+void ConvertImageDepth(IconImage& image, int bitCount) {
+    const bool hadAlpha = image.info.bitCount == 32;
+    for (int x = 0; x < ImageWidth(image); ++x) {
+        for (int y = 0; y < ImageHeight(image); ++y) {
+            const int alpha = hadAlpha ? image.Alpha(x, y) : 255;
+            const DepthPixel pixel = PixelForDepth(image.Color(x, y), alpha, bitCount);
+            image.Color(x, y) = pixel.color;
+            image.Alpha(x, y) = pixel.alpha;
+        }
+    }
+    image.info.bitCount = static_cast<std::int16_t>(bitCount);
+    image.originalPng.clear();
+}
+
 int ShownAlpha(const IconImage& image, int x, int y) {
     if (image.Color(x, y) == TransparentColor) return 0;
     return image.info.bitCount == 32 ? std::clamp(image.Alpha(x, y), 0, 255) : 255;

@@ -21,6 +21,10 @@ struct DepthPixel {
 // `color` with `alpha` (0..255) as a pixel of a `bitCount`-bit image.
 DepthPixel PixelForDepth(PackedColor color, int alpha, int bitCount);
 
+// Brings every cell of the image (its width by height) to `bitCount` bits as above and sets
+// its bit count. A lower depth loses colours and alpha for good.
+void ConvertImageDepth(IconImage& image, int bitCount);
+
 // A cell's alpha as it shows: 0 for the transparent marker, plane 1 in a 32-bit image,
 // otherwise 255 (an inverting pixel included).
 int ShownAlpha(const IconImage& image, int x, int y);

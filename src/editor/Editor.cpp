@@ -134,4 +134,9 @@ void Editor::ImagesChanged(int current, bool moved) {
     Notify(&IEditorObserver::CurrentImageChanged);
 }
 
+void Editor::ImagesEdited(int current, bool sameImage) {
+    ImagesChanged(current, sameImage);
+    inspector_.Check();
+}
+
 }  // namespace iw

@@ -7,6 +7,7 @@
 // - Canvas(): pointer and key events for the current tool, the floating selection;
 // - Edit(): cut, copy, paste, delete, select all and placed text;
 // - Hotspot(): Set Hotspot for cursors;
+// - Images(): add, remove, change and move the set's images;
 // - Inspector(): the inspector panel and its fix;
 // - Settings(): the settings and message stores, the window's settings, the templates.
 // The Editor itself holds which image is edited and the undo history, wires the parts
@@ -23,6 +24,7 @@
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
 #include "editor/HotspotControl.h"
+#include "editor/ImageListCommands.h"
 #include "editor/InspectorController.h"
 #include "editor/ProgramSettings.h"
 #include "editor/ToolControls.h"
@@ -41,7 +43,8 @@ struct StartupResult {
 class Editor final : private ICanvasHost,
                      private IDocumentHost,
                      private IInspectorHost,
-                     private IHotspotHost {
+                     private IHotspotHost,
+                     private IImageListHost {
   public:
     explicit Editor(EditorServices services, ToolSet tools = StandardTools());
     Editor(const Editor&) = delete;
@@ -107,6 +110,8 @@ class Editor final : private ICanvasHost,
     const EditCommands& Edit() const { return edit_; }
     HotspotControl& Hotspot() { return hotspot_; }
     const HotspotControl& Hotspot() const { return hotspot_; }
+    ImageListCommands& Images() { return images_; }
+    const ImageListCommands& Images() const { return images_; }
     InspectorController& Inspector() { return inspector_; }
     const InspectorController& Inspector() const { return inspector_; }
     ProgramSettings& Settings() { return settings_; }
@@ -132,6 +137,7 @@ class Editor final : private ICanvasHost,
     void RedoLayout() override;
     void FinishEditing() override { canvas_.DropFloatingSelection(); }
     void HotspotMoved() override { session_.MarkModified(); }
+    void ImagesEdited(int current, bool sameImage) override;
     void ShowCurrentImage();
     void ResetUndosRepeats();
     // Undo or Repeat, when offered: drop a floating selection, then the step.
@@ -151,6 +157,7 @@ class Editor final : private ICanvasHost,
     EditCommands edit_;
     InspectorController inspector_;
     DocumentSession session_;
+    ImageListCommands images_{set_, settings_.Messages(), *this};
     AdjustmentsRelay adjustments_{*this};
 };
 

@@ -16,14 +16,6 @@
 namespace iw {
 namespace {
 
-// The index at which an image of `format` keeps a sorted set sorted.
-int StandardPosition(const IconSet& set, const IconFormat& format) {
-    int index = 0;
-    while (index < set.Count() && !ComesBefore(format, FormatOf(set.Info(index))))
-        ++index;
-    return index;
-}
-
 void AddMissingFormats(IconSet& set, const std::vector<TemplateEntry>& missing) {
     for (const TemplateEntry& entry : missing) {
         if (set.Full()) break;
