@@ -10,17 +10,8 @@
 namespace iw {
 namespace {
 
-TemplateEntry SquareFormat(int side, int bits, int png) {
-    TemplateEntry format;
-    format.widthMinus1 = static_cast<std::int16_t>(side - 1);
-    format.heightMinus1 = static_cast<std::int16_t>(side - 1);
-    format.bits = static_cast<std::int16_t>(bits);
-    format.compressed = static_cast<std::int16_t>(png);
-    return format;
-}
-
 // One blank 32 x 32 image of 32 bits: new documents, cursors and the untitled fallback.
-const TemplateEntry kDefaultFormat = SquareFormat(32, 32, 0);
+const TemplateEntry kDefaultFormat = ImageAttributes{32, 32, 32, false}.Entry();
 
 }  // namespace
 
@@ -125,9 +116,13 @@ bool DocumentSession::NewDocument() {
 }
 
 bool DocumentSession::NewBlankIcon(int kind) {
-    if (!Ask()) return false;
     const BlankIconFormat format = BlankIconKind(kind);
-    StartFreshSet(FileMode::ICO, SquareFormat(format.side, format.bits, format.png));
+    return NewIcon({format.side, format.side, format.bits, format.png != 0});
+}
+
+bool DocumentSession::NewIcon(const ImageAttributes& attributes) {
+    if (!attributes.Valid() || !Ask()) return false;
+    StartFreshSet(FileMode::ICO, attributes.Entry());
     Replaced();
     return true;
 }

@@ -10,6 +10,7 @@
 #include "document/model/IconSet.h"
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
+#include "editor/ImageAttributes.h"
 #include "editor/ProgramSettings.h"
 #include "editor/UndoHistory.h"
 #include "services/core/Texts.h"
@@ -44,6 +45,9 @@ class DocumentSession {
     // New, open and the start-up tiles all ask first and do nothing on Cancel.
     bool NewDocument();  // one blank 32 x 32 image of 32 bits
     bool NewBlankIcon(int kind);
+    // The start-up dialog's first tile: one blank image of the chosen sides, depth and
+    // storage. False, changing nothing, for attributes out of range.
+    bool NewIcon(const ImageAttributes& attributes);
     bool NewCursor();          // one blank image, cursor mode, the "CreateCursor" hint
     bool NewAnimatedCursor();  // one blank image, animated cursor mode, the "CreateANI" hint
     bool NewFromTemplate(const IconTemplate& source);

@@ -147,6 +147,25 @@ TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
     EXPECT_TRUE(f.documents.writes.empty());
 }
 
+TEST_F(Lifecycle, ANewIconHasOneBlankImageOfTheChosenFormat) {
+    Start();
+    Draw({1, 1});
+    f.presenter.answer = MessageAnswer::Cancel;
+    EXPECT_FALSE(editor.Document().NewIcon({48, 20, 4, true}));
+    EXPECT_FALSE(editor.Document().Unmodified());
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(editor.Document().NewIcon({48, 257, 4, true}));
+    EXPECT_FALSE(editor.Document().NewIcon({48, 20, 2, true}));
+    EXPECT_FALSE(editor.Document().Unmodified());
+    ASSERT_TRUE(editor.Document().NewIcon({48, 20, 4, true}));
+    ASSERT_EQ(editor.Set().Count(), 1);
+    EXPECT_EQ(AttributesOf(editor.Set().Info(0)), (ImageAttributes{48, 20, 4, true}));
+    EXPECT_EQ(editor.CurrentImage().Color(47, 19), TransparentColor);
+    EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
+    EXPECT_TRUE(editor.Document().Unmodified());
+    EXPECT_FALSE(editor.Document().HasFileName());
+}
+
 TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {
     Start();
     Draw({1, 1});
