@@ -95,6 +95,7 @@ void DocumentSession::StartFreshSet(FileMode mode, const TemplateEntry& format) 
 }
 
 void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
+    if (request_ && !SamePath(fileName_, request_->Target())) EndEditRequest();
     host_.SetReplaced(formats);
     MarkSaved();
     events_.Notify(&IEditorObserver::ModeChanged);
@@ -184,13 +185,47 @@ bool DocumentSession::OpenRecent(int number) {
 }
 
 bool DocumentSession::OpenEditRequest(const std::string& requestFile) {
-    editRequest_ = requestFile;
-    XmlStore request;
-    request.Load(requestFile);
-    services_.view.ShowEditRequest(GetText(texts::EditingFor) +
-                                   request.GetValue("Request\\Program", ""));
-    const std::string icon = request.GetValue("Request\\File", "");
-    return DocumentExists(icon) && OpenDocument(icon);
+    std::optional<EditRequestFile> request = EditRequestFile::Read(requestFile);
+    if (!request) {
+        settings_.Messages().ShowMessage(texts::InvalidCommand.key,
+                                         GetText(texts::InvalidCommand) + "\n" + requestFile,
+                                         texts::kProgramTitle, MessageType::Exclamation, false);
+        return false;
+    }
+    EndEditRequest();
+    if (!TakeRequestedFile(request->Target())) {
+        request->WriteAnswer();
+        return false;
+    }
+    request_ = std::move(request);
+    services_.view.ShowEditRequest(EditRequestText());
+    events_.Notify(&IEditorObserver::EditRequestChanged);
+    return true;
+}
+
+bool DocumentSession::TakeRequestedFile(const std::string& target) {
+    if (DocumentExists(target)) return OpenDocument(target);
+    if (!Ask()) return false;
+    StartFreshSet(FileModeFromPath(target), kDefaultFormat);
+    fileName_ = target;
+    Replaced();
+    return true;
+}
+
+void DocumentSession::EndEditRequest() {
+    if (!request_) return;
+    request_->WriteAnswer();
+    request_.reset();
+    events_.Notify(&IEditorObserver::EditRequestChanged);
+}
+
+const std::string& DocumentSession::EditRequest() const {
+    static const std::string kNone;
+    return request_ ? request_->Path() : kNone;
+}
+
+std::string DocumentSession::EditRequestText() const {
+    return request_ ? GetText(texts::EditingFor) + request_->Program() : std::string();
 }
 
 // ---- Save -------------------------------------------------------------------------------
@@ -202,6 +237,11 @@ bool DocumentSession::WriteTo(const std::string& path) {
     if (!services_.documents.Write(path, set_, how, context)) return false;
     fileName_ = path;
     MarkSaved();
+    if (request_ && SamePath(path, request_->Target())) {
+        request_->NoteSaved();
+    } else {
+        EndEditRequest();  // the document went elsewhere
+    }
     settings_.AddRecentFile(path);
     events_.Notify(&IEditorObserver::CaptionChanged);
     return true;

@@ -65,7 +65,8 @@ class Editor final : private ICanvasHost,
     bool HandleCommandLine(std::string_view commandLine);
     // The window is asked to close: ask to save. False when the user cancelled.
     bool QueryClose();
-    // The window unloads: the settings and the message store are written back.
+    // The window unloads: an edit request is answered, the settings and the message store
+    // are written back.
     void Shutdown();
 
     // ---- The set and the image being edited --------------------------------------------

@@ -27,6 +27,8 @@ class IEditorObserver {
     virtual void SelectionChanged() {}
     // The hotspot moved, or setting it began or ended: Hotspot().Position(), Setting().
     virtual void HotspotChanged() {}
+    // An edit request began or ended: Document().EditRequest(), EditRequestText().
+    virtual void EditRequestChanged() {}
 };
 
 // The observers of one editor. Observers may come and go while an event is delivered.

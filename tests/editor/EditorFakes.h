@@ -108,6 +108,7 @@ class RecordingObserver : public IEditorObserver {
     void RecentFilesChanged() override { ++events["recent"]; }
     void SelectionChanged() override { ++events["selection"]; }
     void HotspotChanged() override { ++events["hotspot"]; }
+    void EditRequestChanged() override { ++events["editRequest"]; }
     std::map<std::string, int> events;
 };
 
