@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
+#include "services/desktop/TemplateFile.h"
 
 namespace iw {
 namespace {
@@ -280,6 +281,16 @@ TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
     EXPECT_EQ(editor.Set().Info(0).Width(), 48);
     EXPECT_EQ(editor.Inspector().Panel().state, InspectorState::AllBlank);
+
+    // A template saved by the template editor is there once the library is read again.
+    TemplateEntry tiny;
+    tiny.widthMinus1 = tiny.heightMinus1 = 7;
+    ASSERT_TRUE(WriteTemplateFile(f.folders.userTemplates / "Tiny.ini", {tiny}));
+    EXPECT_EQ(editor.Settings().Templates().Find("Tiny"), nullptr);
+    const std::size_t before = editor.Settings().Templates().Templates().size();
+    editor.Settings().ReloadTemplates();
+    EXPECT_NE(editor.Settings().Templates().Find("Tiny"), nullptr);
+    EXPECT_EQ(editor.Settings().Templates().Templates().size(), before + 1);
 }
 
 TEST_F(Lifecycle, ShutdownWritesTheStores) {
