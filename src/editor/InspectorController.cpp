@@ -78,6 +78,7 @@ void InspectorController::StartOver(std::vector<TemplateEntry> formats) {
 
 bool InspectorController::Fix() {
     if (!InspectorApplies(set_)) return false;
+    host_.FinishEditing();
     highlighted_.clear();
     const int current = host_.CurrentIcon();
     int next = current;

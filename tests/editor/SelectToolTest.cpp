@@ -123,6 +123,12 @@ TEST(SelectTool, EveryWayOfLeavingTheSelectionDropsItIntoTheImage) {
     ASSERT_TRUE(f.editor.Document().Save());
     EXPECT_EQ(f.documents.files.at(f.editor.Document().FileName()).Image(0).Color(4, 1),
               PatternColor(1, 1));
+    // A fix of the inspector changes the set: the selection goes into its image first.
+    f.Stroke({{4, 4}, {5, 5}});
+    f.Stroke({{4, 4}, {6, 4}});
+    ASSERT_TRUE(f.editor.Inspector().Fix());  // adds the missing formats before it
+    EXPECT_EQ(f.editor.Set().Image(f.editor.Set().LastIcon()).Color(7, 5), PatternColor(5, 5));
+    f.editor.SelectImage(f.editor.Set().LastIcon());
     f.Stroke({{5, 5}, {6, 6}});
     f.presenter.answer = MessageAnswer::No;
     ASSERT_TRUE(f.editor.Document().NewDocument());  // the image it floated over is gone
