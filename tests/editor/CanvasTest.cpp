@@ -36,16 +36,13 @@ TEST(Canvas, SetHotspotTakesOneClickOnTheImageOfACursor) {
         ASSERT_TRUE(f.Open(test::SolidSet(16, 32, PackColor(9, 9, 9)), name));
         HotspotControl& hotspot = f.editor.Hotspot();
         const bool cursor = f.editor.Document().Mode() != FileMode::ICO;
-        EXPECT_EQ(hotspot.Offered(), cursor) << name;
         EXPECT_EQ(hotspot.Begin(), cursor) << name;
-        EXPECT_EQ(hotspot.Position().has_value(), cursor) << name;
         f.Stroke({{5, 6}});  // the pencil is the tool
         EXPECT_EQ(f.editor.History().UndoCount(), cursor ? -1 : 0) << name;
-        EXPECT_EQ(f.editor.CurrentImage().Color(5, 6), cursor ? PackColor(9, 9, 9) : 0) << name;
+        EXPECT_EQ(hotspot.Position(), cursor ? std::optional(Point{5, 6}) : std::nullopt);
+        EXPECT_EQ(f.editor.Document().Unmodified(), false);
         EXPECT_FALSE(hotspot.Setting());
         if (!cursor) continue;
-        EXPECT_EQ(hotspot.Position(), (Point{5, 6}));
-        EXPECT_FALSE(f.editor.Document().Unmodified());
 
         // Escape, another tool and a click beside the image end it without a change.
         const std::function<void()> ends[] = {
@@ -66,7 +63,6 @@ TEST(Canvas, SetHotspotTakesOneClickOnTheImageOfACursor) {
             EXPECT_EQ(f.observer.events["image"], 0);
         }
         EXPECT_EQ(hotspot.Position(), (Point{5, 6}));
-        EXPECT_FALSE(f.editor.Canvas().KeyPress({CanvasKey::Escape, {}}));
     }
 }
 

@@ -162,9 +162,7 @@ TEST_F(Lifecycle, ANewIconHasOneBlankImageOfTheChosenFormat) {
     ASSERT_EQ(editor.Set().Count(), 1);
     EXPECT_EQ(AttributesOf(editor.Set().Info(0)), (ImageAttributes{48, 20, 4, true}));
     EXPECT_EQ(editor.CurrentImage().Color(47, 19), TransparentColor);
-    EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
     EXPECT_TRUE(editor.Document().Unmodified());
-    EXPECT_FALSE(editor.Document().HasFileName());
 }
 
 TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {

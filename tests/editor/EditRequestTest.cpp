@@ -35,57 +35,44 @@ struct EditRequest : ::testing::Test {
     Editor& editor = f.editor;
 };
 
-TEST_F(EditRequest, SaveWritesTheRequestedIconAndClosingAnswersSaved) {
+TEST_F(EditRequest, SaveWritesTheRequestedIconAndTheEndOfTheRequestAnswers) {
     const std::string icon = f.PathFor("app.ico");
     test::MessageFixture messages;
     CoreContext context{messages.service, f.progress, f.log};
     ASSERT_TRUE(WriteIconFile(icon, test::SolidSet(16, 32, PackColor(9, 9, 9)), context));
     const std::string request = Request(icon);
-
     editor.RunStartup(request, f.folders);
     EXPECT_EQ(f.view.editRequestText, "You are editing an icon for Paint & Co");
-    EXPECT_EQ(editor.Document().EditRequestText(), f.view.editRequestText);
-    EXPECT_EQ(editor.Document().EditRequest(), request);
     EXPECT_EQ(editor.Document().FileName(), icon);
     Draw();
     ASSERT_TRUE(editor.Document().Save());
     EXPECT_EQ(Answer(request), "- - Paint & Co");  // not answered before the end
-    ASSERT_TRUE(editor.QueryClose());
     editor.Shutdown();
     EXPECT_EQ(Answer(request), "Saved " + icon + " Paint & Co");
-    EXPECT_EQ(editor.Document().EditRequest(), "");
-
     IconSet saved;
     ASSERT_TRUE(f.documents.Read(icon, saved, context));
     EXPECT_EQ(saved.Image(0).Color(1, 1), PackColor(0, 0, 0));
-}
 
-TEST_F(EditRequest, AMissingIconIsMadeInItsModeAndANewDocumentEndsTheRequestCancelled) {
+    // A missing file starts in its mode; Save As elsewhere and another document end it.
     const std::string cursor = f.PathFor("new.cur");
-    const std::string request = Request(cursor);
-    editor.RunStartup(request, f.folders);
-    EXPECT_EQ(editor.Document().Mode(), FileMode::CUR);
+    const std::string second = Request(cursor, "second.xml");
+    ASSERT_TRUE(editor.HandleCommandLine(second));
     EXPECT_EQ(editor.Document().Caption(), "new.cur - Quorvale Iconwright");
-    EXPECT_FALSE(std::filesystem::exists(cursor));
-    Draw();
+    EXPECT_EQ(editor.Document().Mode(), FileMode::CUR);
     f.observer.events.clear();
-    f.presenter.answer = MessageAnswer::No;
-    ASSERT_TRUE(editor.Document().NewDocument());
+    ASSERT_TRUE(editor.Document().SaveAs(f.PathFor("elsewhere.cur")));
     EXPECT_EQ(f.observer.events["editRequest"], 1);
-    EXPECT_EQ(Answer(request), "Cancelled  Paint & Co");
+    EXPECT_EQ(Answer(second), "Cancelled  Paint & Co");
     EXPECT_FALSE(std::filesystem::exists(cursor));
-    editor.Shutdown();  // answered once only
-    EXPECT_EQ(Answer(request), "Cancelled  Paint & Co");
+    const std::string third = Request(cursor, "third.xml");
+    ASSERT_TRUE(editor.HandleCommandLine(third));
+    ASSERT_TRUE(editor.Document().SaveAs(cursor));
+    ASSERT_TRUE(editor.Document().NewDocument());
+    EXPECT_EQ(editor.Document().EditRequest(), "");
+    EXPECT_EQ(Answer(third), "Saved " + cursor + " Paint & Co");
 }
 
-TEST_F(EditRequest, SaveAsElsewhereEndsItAndABadRequestFileIsLeftAlone) {
-    const std::string request = Request(f.PathFor("a.ico"));
-    ASSERT_TRUE(editor.HandleCommandLine(request));
-    ASSERT_TRUE(editor.Document().SaveAs(f.PathFor("a.ico")));
-    ASSERT_TRUE(editor.Document().SaveAs(f.PathFor("elsewhere.ico")));
-    EXPECT_EQ(Answer(request), "Saved " + f.PathFor("a.ico") + " Paint & Co");
-    EXPECT_EQ(editor.Document().EditRequest(), "");
-
+TEST_F(EditRequest, AFileThatIsNoRequestIsReportedAndLeftAlone) {
     const std::vector<std::uint8_t> notXml = {'<', 'X', 'M', 'L', '>', '<', '/'};
     test::WriteFileBytes(f.temp / "bad.xml", notXml);
     const std::string noFile = Request("", "nofile.xml");
@@ -98,7 +85,6 @@ TEST_F(EditRequest, SaveAsElsewhereEndsItAndABadRequestFileIsLeftAlone) {
     }
     EXPECT_EQ(test::ReadFileBytes(f.temp / "bad.xml"), notXml);
     EXPECT_EQ(Answer(noFile), "- - Paint & Co");
-    EXPECT_FALSE(std::filesystem::exists(f.PathFor("no.xml")));
 }
 
 }  // namespace
