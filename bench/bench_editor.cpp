@@ -56,12 +56,19 @@ struct CanvasHost final : iw::ICanvasHost {
     iw::UndoHistory history;
 };
 
+struct HotspotHost final : iw::IHotspotHost {
+    void HotspotMoved() override {}
+};
+
 void CanvasPencilStrokeLCircle100(benchmark::State& state) {
     CanvasHost host;
     iw::EditorEvents events;
     iw::ToolControls tools(events);
     iw::ClockRandomSource random;
-    iw::CanvasController canvas(host, tools, random, events);
+    iw::IconSet set;
+    HotspotHost hotspotHost;
+    iw::HotspotControl hotspot(set, hotspotHost, events);
+    iw::CanvasController canvas(host, tools, hotspot, random, events);
     tools.SetBrushShape("LCircle");
     tools.SetForeColor(5);
     for (auto _ : state) {

@@ -10,17 +10,8 @@
 namespace iw {
 namespace {
 
-TemplateEntry SquareFormat(int side, int bits, int png) {
-    TemplateEntry format;
-    format.widthMinus1 = static_cast<std::int16_t>(side - 1);
-    format.heightMinus1 = static_cast<std::int16_t>(side - 1);
-    format.bits = static_cast<std::int16_t>(bits);
-    format.compressed = static_cast<std::int16_t>(png);
-    return format;
-}
-
 // One blank 32 x 32 image of 32 bits: new documents, cursors and the untitled fallback.
-const TemplateEntry kDefaultFormat = SquareFormat(32, 32, 0);
+const TemplateEntry kDefaultFormat = ImageAttributes{32, 32, 32, false}.Entry();
 
 }  // namespace
 
@@ -104,6 +95,7 @@ void DocumentSession::StartFreshSet(FileMode mode, const TemplateEntry& format) 
 }
 
 void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
+    if (request_ && !SamePath(fileName_, request_->Target())) EndEditRequest();
     host_.SetReplaced(formats);
     MarkSaved();
     events_.Notify(&IEditorObserver::ModeChanged);
@@ -125,9 +117,13 @@ bool DocumentSession::NewDocument() {
 }
 
 bool DocumentSession::NewBlankIcon(int kind) {
-    if (!Ask()) return false;
     const BlankIconFormat format = BlankIconKind(kind);
-    StartFreshSet(FileMode::ICO, SquareFormat(format.side, format.bits, format.png));
+    return NewIcon({format.side, format.side, format.bits, format.png != 0});
+}
+
+bool DocumentSession::NewIcon(const ImageAttributes& attributes) {
+    if (!attributes.Valid() || !Ask()) return false;
+    StartFreshSet(FileMode::ICO, attributes.Entry());
     Replaced();
     return true;
 }
@@ -189,23 +185,63 @@ bool DocumentSession::OpenRecent(int number) {
 }
 
 bool DocumentSession::OpenEditRequest(const std::string& requestFile) {
-    editRequest_ = requestFile;
-    XmlStore request;
-    request.Load(requestFile);
-    services_.view.ShowEditRequest(GetText(texts::EditingFor) +
-                                   request.GetValue("Request\\Program", ""));
-    const std::string icon = request.GetValue("Request\\File", "");
-    return DocumentExists(icon) && OpenDocument(icon);
+    std::optional<EditRequestFile> request = EditRequestFile::Read(requestFile);
+    if (!request) {
+        settings_.Messages().ShowMessage(texts::InvalidCommand.key,
+                                         GetText(texts::InvalidCommand) + "\n" + requestFile,
+                                         texts::kProgramTitle, MessageType::Exclamation, false);
+        return false;
+    }
+    EndEditRequest();
+    if (!TakeRequestedFile(request->Target())) {
+        request->WriteAnswer();
+        return false;
+    }
+    request_ = std::move(request);
+    services_.view.ShowEditRequest(EditRequestText());
+    events_.Notify(&IEditorObserver::EditRequestChanged);
+    return true;
+}
+
+bool DocumentSession::TakeRequestedFile(const std::string& target) {
+    if (DocumentExists(target)) return OpenDocument(target);
+    if (!Ask()) return false;
+    StartFreshSet(FileModeFromPath(target), kDefaultFormat);
+    fileName_ = target;
+    Replaced();
+    return true;
+}
+
+void DocumentSession::EndEditRequest() {
+    if (!request_) return;
+    request_->WriteAnswer();
+    request_.reset();
+    events_.Notify(&IEditorObserver::EditRequestChanged);
+}
+
+const std::string& DocumentSession::EditRequest() const {
+    static const std::string kNone;
+    return request_ ? request_->Path() : kNone;
+}
+
+std::string DocumentSession::EditRequestText() const {
+    return request_ ? GetText(texts::EditingFor) + request_->Program() : std::string();
 }
 
 // ---- Save -------------------------------------------------------------------------------
 
 bool DocumentSession::WriteTo(const std::string& path) {
+    host_.FinishEditing();
     CoreContext context = Context();
     const DocumentWrite how{set_.mode, host_.CurrentIcon()};
     if (!services_.documents.Write(path, set_, how, context)) return false;
     fileName_ = path;
     MarkSaved();
+    if (request_ && SamePath(path, request_->Target())) {
+        request_->NoteSaved();
+    } else {
+        EndEditRequest();  // the document went elsewhere
+    }
     settings_.AddRecentFile(path);
     events_.Notify(&IEditorObserver::CaptionChanged);
     return true;

@@ -4,12 +4,15 @@
 // and edit requests from other programs.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/model/IconSet.h"
+#include "editor/EditRequestFile.h"
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
+#include "editor/ImageAttributes.h"
 #include "editor/ProgramSettings.h"
 #include "editor/UndoHistory.h"
 #include "services/core/Texts.h"
@@ -26,6 +29,8 @@ class IDocumentHost {
     virtual void SetReplaced(const std::vector<TemplateEntry>* formats) = 0;
     // The image a cursor file is written from.
     virtual int CurrentIcon() const = 0;
+    // Before a save: what is still floating above the image goes into it.
+    virtual void FinishEditing() = 0;
 };
 
 class DocumentSession {
@@ -42,6 +47,9 @@ class DocumentSession {
     // New, open and the start-up tiles all ask first and do nothing on Cancel.
     bool NewDocument();  // one blank 32 x 32 image of 32 bits
     bool NewBlankIcon(int kind);
+    // The start-up dialog's first tile: one blank image of the chosen sides, depth and
+    // storage. False, changing nothing, for attributes out of range.
+    bool NewIcon(const ImageAttributes& attributes);
     bool NewCursor();          // one blank image, cursor mode, the "CreateCursor" hint
     bool NewAnimatedCursor();  // one blank image, animated cursor mode, the "CreateANI" hint
     bool NewFromTemplate(const IconTemplate& source);
@@ -50,9 +58,16 @@ class DocumentSession {
     bool OpenDocument(const std::string& path);
     // The recent-files menu items 1 to 4.
     bool OpenRecent(int number);
-    // Another program asks for an icon to be edited: the request file names the program
-    // ("Request\Program"), shown to the user, and the icon ("Request\File"), opened.
+    // Another program asks for an icon to be edited (docs/edit-requests.md): the request
+    // file names the program ("Request\Program"), shown to the user, and the icon file
+    // ("Request\File"), which is opened, or made as a new blank icon or cursor when it does
+    // not exist yet; Save writes it. A file that is no request shows "This file cannot be
+    // found or the command is invalid." and the path. Returns whether the request was taken;
+    // one that cannot be (ask-to-save cancelled, an unreadable icon) is answered at once.
     bool OpenEditRequest(const std::string& requestFile);
+    // The request ends (the editor closes, another document takes its place, Save As writes
+    // elsewhere, another request comes): its answer is written into the request file.
+    void EndEditRequest();
     // Save to the file name, or ask for one (Save As) when the set has none.
     bool Save();
     // Before writing over an existing file: "The file %f already exists.  OK to overwrite?"
@@ -74,8 +89,10 @@ class DocumentSession {
     std::string ModeMenuCaption() const;  // "&Icon" or "&Cursor"
     // True after new, open and save, and again after undoing back to the saved state.
     bool Unmodified() const;
-    // The edit request file, when one was given.
-    const std::string& EditRequest() const { return editRequest_; }
+    // The request file while an edit request is in force, else "".
+    const std::string& EditRequest() const;
+    // "You are editing an icon for " and the program while a request is in force, else "".
+    std::string EditRequestText() const;
 
   private:
     friend class Editor;  // start-up uses Discard and StartUntitled
@@ -89,6 +106,8 @@ class DocumentSession {
     // A cursor or an animated cursor of one blank image, then its hint.
     bool NewCursorSet(FileMode mode, const TextId& hint);
     void Replaced(const std::vector<TemplateEntry>* formats = nullptr);
+    // Takes the request's icon file as the document.
+    bool TakeRequestedFile(const std::string& target);
     bool WriteTo(const std::string& path);
     void SwitchMode(FileMode mode);
     void MarkSaved();
@@ -102,7 +121,7 @@ class DocumentSession {
     EditorEvents& events_;
 
     std::string fileName_;
-    std::string editRequest_;
+    std::optional<EditRequestFile> request_;
     MessageAnswer lastAnswer_ = MessageAnswer::No;
     bool savedStateKnown_ = true;
     std::uint64_t savedStateId_ = 0;

@@ -10,10 +10,13 @@ Editor::Editor(EditorServices services, ToolSet tools)
       settings_(services.presenter, events_),
       tools_(events_),
       view_(events_),
-      canvas_(*this, tools_, services.random, events_, std::move(tools)),
+      canvas_(*this, tools_, hotspot_, services.random, events_, std::move(tools)),
+      edit_(*this, canvas_, tools_, settings_.Messages(), events_),
       inspector_(set_, settings_.Messages(), *this, events_,
                  DefaultRequiredFormats(settings_.Templates())),
-      session_(set_, history_, settings_, services_, *this, events_) {}
+      session_(set_, history_, settings_, services_, *this, events_) {
+    tools_.SetSwitchListener(&canvas_);
+}
 
 // ---- The image being edited -------------------------------------------------------------
 
@@ -54,6 +57,8 @@ void Editor::RedoLayout() {
 void Editor::AddUndo() {
     IconImage* image = EditedImage();
     if (!image) return;
+    // A change to the image takes a floating selection with it.
+    canvas_.DropFloatingSelection();
     history_.AddUndo(*image);
     Notify(&IEditorObserver::UndoStateChanged);
 }
@@ -127,6 +132,11 @@ void Editor::ImagesChanged(int current, bool moved) {
     ShowCurrentImage();
     Notify(&IEditorObserver::SetChanged);
     Notify(&IEditorObserver::CurrentImageChanged);
+}
+
+void Editor::ImagesEdited(int current, bool sameImage) {
+    ImagesChanged(current, sameImage);
+    inspector_.Check();
 }
 
 }  // namespace iw

@@ -5,6 +5,9 @@
 // - View(): zoom, fit and grid;
 // - Tools(): the current tool, its options and the colours;
 // - Canvas(): pointer and key events for the current tool, the floating selection;
+// - Edit(): cut, copy, paste, delete, select all and placed text;
+// - Hotspot(): Set Hotspot for cursors;
+// - Images(): add, remove, change and move the set's images;
 // - Inspector(): the inspector panel and its fix;
 // - Settings(): the settings and message stores, the window's settings, the templates.
 // The Editor itself holds which image is edited and the undo history, wires the parts
@@ -17,8 +20,11 @@
 #include "document/model/IconSet.h"
 #include "editor/CanvasController.h"
 #include "editor/DocumentSession.h"
+#include "editor/EditCommands.h"
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
+#include "editor/HotspotControl.h"
+#include "editor/ImageListCommands.h"
 #include "editor/InspectorController.h"
 #include "editor/ProgramSettings.h"
 #include "editor/ToolControls.h"
@@ -34,7 +40,11 @@ struct StartupResult {
     bool previousRunEndedCleanly = true;
 };
 
-class Editor final : private ICanvasHost, private IDocumentHost, private IInspectorHost {
+class Editor final : private ICanvasHost,
+                     private IDocumentHost,
+                     private IInspectorHost,
+                     private IHotspotHost,
+                     private IImageListHost {
   public:
     explicit Editor(EditorServices services, ToolSet tools = StandardTools());
     Editor(const Editor&) = delete;
@@ -55,7 +65,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     bool HandleCommandLine(std::string_view commandLine);
     // The window is asked to close: ask to save. False when the user cancelled.
     bool QueryClose();
-    // The window unloads: the settings and the message store are written back.
+    // The window unloads: an edit request is answered, the settings and the message store
+    // are written back.
     void Shutdown();
 
     // ---- The set and the image being edited --------------------------------------------
@@ -70,7 +81,8 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void SelectImage(int index) override;
 
     // ---- Undo --------------------------------------------------------------------------
-    // Records the current image before a change made outside the canvas (effects, paste).
+    // Records the current image before a change made outside the canvas (effects); a
+    // floating selection is dropped into the image first.
     void AddUndo() override;
     // Undo and Repeat drop a floating selection into the image first.
     bool Undo();
@@ -95,6 +107,12 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     const ToolControls& Tools() const { return tools_; }
     CanvasController& Canvas() { return canvas_; }
     const CanvasController& Canvas() const { return canvas_; }
+    EditCommands& Edit() { return edit_; }
+    const EditCommands& Edit() const { return edit_; }
+    HotspotControl& Hotspot() { return hotspot_; }
+    const HotspotControl& Hotspot() const { return hotspot_; }
+    ImageListCommands& Images() { return images_; }
+    const ImageListCommands& Images() const { return images_; }
     InspectorController& Inspector() { return inspector_; }
     const InspectorController& Inspector() const { return inspector_; }
     ProgramSettings& Settings() { return settings_; }
@@ -118,6 +136,9 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     void SetReplaced(const std::vector<TemplateEntry>* formats) override;
     void ImagesChanged(int current, bool moved) override;
     void RedoLayout() override;
+    void FinishEditing() override { canvas_.DropFloatingSelection(); }
+    void HotspotMoved() override { session_.MarkModified(); }
+    void ImagesEdited(int current, bool sameImage) override;
     void ShowCurrentImage();
     void ResetUndosRepeats();
     // Undo or Repeat, when offered: drop a floating selection, then the step.
@@ -132,9 +153,12 @@ class Editor final : private ICanvasHost, private IDocumentHost, private IInspec
     UndoHistory history_;
     ToolControls tools_;
     ViewController view_;
+    HotspotControl hotspot_{set_, *this, events_};
     CanvasController canvas_;
+    EditCommands edit_;
     InspectorController inspector_;
     DocumentSession session_;
+    ImageListCommands images_{set_, settings_.Messages(), *this};
     AdjustmentsRelay adjustments_{*this};
 };
 

@@ -22,6 +22,13 @@ class IEditorObserver {
     virtual void UndoStateChanged() {}     // whether Undo and Repeat are offered
     virtual void InspectorChanged() {}     // the inspector panel and the highlighted images
     virtual void RecentFilesChanged() {}   // the recent-files menu
+    // The floating selection appeared, moved, was dropped or thrown away, or the rubber band
+    // changed: Canvas().FloatingSelection(), Canvas().RubberBand().
+    virtual void SelectionChanged() {}
+    // The hotspot moved, or setting it began or ended: Hotspot().Position(), Setting().
+    virtual void HotspotChanged() {}
+    // An edit request began or ended: Document().EditRequest(), EditRequestText().
+    virtual void EditRequestChanged() {}
 };
 
 // The observers of one editor. Observers may come and go while an event is delivered.

@@ -68,6 +68,7 @@ bool Editor::QueryClose() {
 }
 
 void Editor::Shutdown() {
+    session_.EndEditRequest();
     settings_.Save(view_.State());
 }
 

@@ -1,8 +1,23 @@
 #include "editor/Geometry.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace iw {
+
+CellRect RectBetween(Point a, Point b) {
+    return {std::min(a.x, b.x), std::min(a.y, b.y), std::abs(a.x - b.x) + 1,
+            std::abs(a.y - b.y) + 1};
+}
+
+CellRect Intersect(const CellRect& a, const CellRect& b) {
+    const int left = std::max(a.x, b.x);
+    const int top = std::max(a.y, b.y);
+    const int right = std::min(a.x + a.width, b.x + b.width);
+    const int bottom = std::min(a.y + a.height, b.y + b.height);
+    if (right <= left || bottom <= top) return {};
+    return {left, top, right - left, bottom - top};
+}
 
 std::vector<Point> LinePoints(Point from, Point to) {
     const int dx = std::abs(to.x - from.x);

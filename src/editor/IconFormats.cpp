@@ -45,6 +45,13 @@ bool InStandardOrder(const IconSet& set) {
     return true;
 }
 
+int StandardPosition(const IconSet& set, const IconFormat& format) {
+    int index = 0;
+    while (index < set.Count() && !ComesBefore(format, FormatOf(set.Info(index))))
+        ++index;
+    return index;
+}
+
 std::vector<int> SortIntoStandardOrder(IconSet& set) {
     std::vector<int> order(static_cast<std::size_t>(set.Count()));
     std::iota(order.begin(), order.end(), 0);

@@ -25,6 +25,8 @@ IconFormat FormatOf(const TemplateEntry& entry);
 // together.
 bool ComesBefore(const IconFormat& a, const IconFormat& b);
 bool InStandardOrder(const IconSet& set);
+// The index at which an image of `format` keeps a sorted set sorted (after its equals).
+int StandardPosition(const IconSet& set, const IconFormat& format);
 // The set's images sorted into the standard order (stable: duplicates keep their order).
 // Returns where each image went: result[old index] = new index.
 std::vector<int> SortIntoStandardOrder(IconSet& set);

@@ -16,14 +16,6 @@
 namespace iw {
 namespace {
 
-// The index at which an image of `format` keeps a sorted set sorted.
-int StandardPosition(const IconSet& set, const IconFormat& format) {
-    int index = 0;
-    while (index < set.Count() && !ComesBefore(format, FormatOf(set.Info(index))))
-        ++index;
-    return index;
-}
-
 void AddMissingFormats(IconSet& set, const std::vector<TemplateEntry>& missing) {
     for (const TemplateEntry& entry : missing) {
         if (set.Full()) break;
@@ -86,6 +78,7 @@ void InspectorController::StartOver(std::vector<TemplateEntry> formats) {
 
 bool InspectorController::Fix() {
     if (!InspectorApplies(set_)) return false;
+    host_.FinishEditing();
     highlighted_.clear();
     const int current = host_.CurrentIcon();
     int next = current;

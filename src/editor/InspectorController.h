@@ -24,6 +24,8 @@ class IInspectorHost {
     virtual ~IInspectorHost() = default;
     virtual int CurrentIcon() const = 0;
     virtual void SelectImage(int index) = 0;
+    // Before a fix changes the set: what floats above the image goes into it.
+    virtual void FinishEditing() = 0;
     // A fix added, removed, moved or redrew images; `current` is the image to edit now.
     // `moved`: it is the image edited before, at a new place (its undo snapshots still
     // apply).

@@ -2,7 +2,8 @@
 
 #include <charconv>
 #include <cmath>
-#include <limits>
+
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
@@ -16,7 +17,8 @@ std::string_view Trim(std::string_view text) {
     return text;
 }
 
-bool PlainNumberSyntax(std::string_view text, bool allowFraction) {
+// An optional sign, digits and at most one decimal point, nothing else.
+bool PlainNumberSyntax(std::string_view text) {
     std::size_t i = 0;
     if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
     bool digits = false;
@@ -25,7 +27,7 @@ bool PlainNumberSyntax(std::string_view text, bool allowFraction) {
         const char c = text[i];
         if (c >= '0' && c <= '9') {
             digits = true;
-        } else if (c == '.' && allowFraction && !point) {
+        } else if (c == '.' && !point) {
             point = true;
         } else {
             return false;
@@ -38,7 +40,7 @@ bool PlainNumberSyntax(std::string_view text, bool allowFraction) {
 
 std::optional<double> ParseNumber(std::string_view text) {
     text = Trim(text);
-    if (!PlainNumberSyntax(text, true)) return std::nullopt;
+    if (!PlainNumberSyntax(text)) return std::nullopt;
     if (text.front() == '+') text.remove_prefix(1);
     double value = 0;
     auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -48,15 +50,7 @@ std::optional<double> ParseNumber(std::string_view text) {
 }
 
 std::optional<int> ParseInteger(std::string_view text) {
-    text = Trim(text);
-    if (!PlainNumberSyntax(text, false)) return std::nullopt;
-    if (text.front() == '+') text.remove_prefix(1);
-    long long value = 0;
-    auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (ec != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
-        return std::nullopt;
-    return static_cast<int>(value);
+    return iw::ParseInteger<int>(Trim(text));
 }
 
 std::string NumberText(int value) {

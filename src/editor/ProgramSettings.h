@@ -36,6 +36,9 @@ class ProgramSettings {
     ViewState Load(const StartupFolders& folders);
     // The program's templates and the user's (a missing program folder is reported).
     void LoadTemplates();
+    // The template editor saved or deleted a template: the templates are read again, so
+    // the start-up dialog and the other windows list what is on disk.
+    void ReloadTemplates() { LoadTemplates(); }
     // Whether the last run ended normally; "Settings\ExitOK" reads "False" from now until
     // Save, so a run that ends otherwise is known at the next start.
     bool BeginRun();

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "editor/NumberText.h"
 #include "imaging/Rounding.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
@@ -15,10 +15,7 @@ constexpr std::array<std::string_view, 6> kBrushShapes = {"SSquare", "MSquare", 
 
 // The whole tag as a decimal number, or -1.
 int TagNumber(std::string_view tag) {
-    int value = -1;
-    auto [end, ec] = std::from_chars(tag.data(), tag.data() + tag.size(), value);
-    if (ec != std::errc() || end != tag.data() + tag.size()) return -1;
-    return value;
+    return ParseInteger<int>(tag).value_or(-1);
 }
 
 }  // namespace
@@ -31,7 +28,9 @@ std::optional<int> ParseChannelEntry(std::string_view text) {
 }
 
 void ToolControls::SelectTool(ToolId tool) {
+    const ToolId from = state_.CurrentTool;
     state_.CurrentTool = tool;
+    if (switchListener_ && from != tool) switchListener_->ToolSwitched(from, tool);
     ToolChanged();
 }
 

@@ -20,15 +20,23 @@ enum class Channel { Red, Green, Blue, Alpha };
 // halves to even); anything else gives no value.
 std::optional<int> ParseChannelEntry(std::string_view text);
 
+// Told when the current tool changes, before the window hears of it.
+class IToolSwitchListener {
+  public:
+    virtual ~IToolSwitchListener() = default;
+    virtual void ToolSwitched(ToolId from, ToolId to) = 0;
+};
+
 class ToolControls final : public IColorPicker {
   public:
     explicit ToolControls(EditorEvents& events) : events_(events) {}
+    void SetSwitchListener(IToolSwitchListener* listener) { switchListener_ = listener; }
 
     const ToolState& State() const { return state_; }
     // The option panel of the current tool.
     OptionPanel Panel() const { return InfoOf(state_.CurrentTool).panel; }
 
-    // A tool bar click.
+    // A tool bar click. Another tool than the current one drops a floating selection.
     void SelectTool(ToolId tool);
     // The same by key ("Pick Color"); an unknown key changes nothing and returns false.
     bool SelectTool(std::string_view key);
@@ -66,6 +74,7 @@ class ToolControls final : public IColorPicker {
     void ToolChanged() const { events_.Notify(&IEditorObserver::ToolChanged); }
 
     EditorEvents& events_;
+    IToolSwitchListener* switchListener_ = nullptr;
     ToolState state_;
 };
 

@@ -1,6 +1,8 @@
-// The canvas handing its events to the tools: which tools record an undo snapshot, and the
-// floating selection's hooks (keys, cursor, dropped before Undo and image switches).
+// The canvas handing its events to the tools: which tools record an undo snapshot; and the
+// Set Hotspot mode taking a click instead of the tool.
 #include <gtest/gtest.h>
+
+#include <functional>
 
 #include "EditorFakes.h"
 
@@ -11,8 +13,8 @@ using enum ToolId;
 
 TEST(Canvas, PaintingToolsRecordOneSnapshotAStrokeAndTheOthersNone) {
     const std::pair<ToolId, bool> cases[] = {
-        {Fill, true},    {Airbrush, true},  {Pencil, true},     {Line, true},    {Gradient, true},
-        {Ellipse, true}, {Rectangle, true}, {PickColor, false}, {Select, false}, {Text, false},
+        {Fill, true},    {Airbrush, true},  {Pencil, true},     {Line, true},   {Gradient, true},
+        {Ellipse, true}, {Rectangle, true}, {PickColor, false}, {Select, true}, {Text, false},
     };
     for (const auto& [tool, paints] : cases) {
         test::EditorFixture f;
@@ -28,70 +30,40 @@ TEST(Canvas, PaintingToolsRecordOneSnapshotAStrokeAndTheOthersNone) {
     }
 }
 
-// Marks its origin with 77 when dropped.
-struct MarkFloating final : IFloatingSelection {
-    explicit MarkFloating(Point at) : origin(at) {}
-    Point Origin() const override { return origin; }
-    const IconImage& Pixels() const override { return pixels; }
-    void Drop(IconImage& image, SelectionMode) override { image.Color(origin.x, origin.y) = 77; }
-    Point origin;
-    IconImage pixels;
-};
+TEST(Canvas, SetHotspotTakesOneClickOnTheImageOfACursor) {
+    for (const char* name : {"a.ico", "a.cur", "a.ani"}) {
+        test::EditorFixture f;
+        ASSERT_TRUE(f.Open(test::SolidSet(16, 32, PackColor(9, 9, 9)), name));
+        HotspotControl& hotspot = f.editor.Hotspot();
+        const bool cursor = f.editor.Document().Mode() != FileMode::ICO;
+        EXPECT_EQ(hotspot.Begin(), cursor) << name;
+        f.Stroke({{5, 6}});  // the pencil is the tool
+        EXPECT_EQ(f.editor.History().UndoCount(), cursor ? -1 : 0) << name;
+        EXPECT_EQ(hotspot.Position(), cursor ? std::optional(Point{5, 6}) : std::nullopt);
+        EXPECT_EQ(f.editor.Document().Unmodified(), false);
+        EXPECT_FALSE(hotspot.Setting());
+        if (!cursor) continue;
 
-// A stand-in for Select: a press lifts a floating selection, the right arrow moves it.
-struct LiftTool final : ITool {
-    ToolResult Press(ToolContext& context, const PointerEvent& event) override {
-        context.undo.AddUndo();
-        context.floating = std::make_unique<MarkFloating>(event.cell);
-        return {};
+        // Escape, another tool and a click beside the image end it without a change.
+        const std::function<void()> ends[] = {
+            [&] {
+                EXPECT_TRUE(f.editor.Canvas().KeyPress({CanvasKey::Escape, {}}));
+            },
+            [&] { f.editor.Tools().SelectTool(ToolId::Fill); },
+            [&] {
+                f.Stroke({{16, 2}});
+            },
+        };
+        for (const auto& end : ends) {
+            f.observer.events.clear();
+            ASSERT_TRUE(hotspot.Begin());
+            end();
+            EXPECT_FALSE(hotspot.Setting());
+            EXPECT_EQ(f.observer.events["hotspot"], 2);
+            EXPECT_EQ(f.observer.events["image"], 0);
+        }
+        EXPECT_EQ(hotspot.Position(), (Point{5, 6}));
     }
-    ToolResult Move(ToolContext&, const PointerEvent&) override { return {}; }
-    std::optional<ToolResult> Key(ToolContext& context, const KeyEvent& event) override {
-        if (!context.floating || event.key != CanvasKey::Right) return std::nullopt;
-        static_cast<MarkFloating&>(*context.floating).origin.x += 1;
-        return ToolResult{true};
-    }
-    CursorHint CursorAt(const IFloatingSelection* floating, Point cell) const override {
-        return floating && floating->Origin() == cell ? CursorHint::Move : CursorHint::Tool;
-    }
-};
-
-TEST(Canvas, AFloatingSelectionIsDroppedBeforeUndoAndImageSwitchesAndLetGoWithTheSet) {
-    test::EditorFixture f;
-    ToolSet tools = StandardTools();
-    tools[static_cast<std::size_t>(Select)] = std::make_unique<LiftTool>();
-    Editor editor{EditorServices{f.presenter, f.progress, f.log, f.documents, f.view, f.random},
-                  std::move(tools)};
-    IconSet two = test::SolidSet(8, 32, 0);
-    two.AddIcon(7, 7, 32);
-    f.documents.Put(f.PathFor("two.ico"), two);
-    ASSERT_TRUE(editor.Document().OpenDocument(f.PathFor("two.ico")));
-    editor.Tools().SelectTool(Select);
-    CanvasController& canvas = editor.Canvas();
-    const auto lift = [&](Point at) {
-        canvas.PointerPress(at, MouseButton::Left);
-        canvas.PointerRelease(at);
-    };
-
-    lift({2, 2});
-    ASSERT_NE(canvas.FloatingSelection(), nullptr);
-    EXPECT_EQ(canvas.CursorAt({2, 2}), CursorHint::Move);
-    EXPECT_TRUE(canvas.KeyPress({CanvasKey::Right, {}}));
-    EXPECT_FALSE(canvas.KeyPress({CanvasKey::Delete, {}}));  // the window passes it on
-    EXPECT_TRUE(editor.Undo());  // drops at (3, 2), then undoes the lift
-    EXPECT_EQ(canvas.FloatingSelection(), nullptr);
-    EXPECT_EQ(editor.CurrentImage().Color(3, 2), 0);
-    EXPECT_TRUE(editor.Repeat());  // the redo snapshot holds the dropped selection
-    EXPECT_EQ(editor.CurrentImage().Color(3, 2), 77);
-
-    lift({5, 5});
-    editor.SelectImage(1);
-    EXPECT_EQ(editor.Set().Image(0).Color(5, 5), 77);
-    lift({1, 1});
-    f.presenter.answer = MessageAnswer::No;
-    ASSERT_TRUE(editor.Document().NewDocument());
-    EXPECT_EQ(canvas.FloatingSelection(), nullptr);
-    EXPECT_EQ(editor.CurrentImage().Color(1, 1), TransparentColor);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
+#include "services/desktop/TemplateFile.h"
 
 namespace iw {
 namespace {
@@ -147,6 +148,23 @@ TEST_F(Lifecycle, CancelKeepsTheSetAndNoDiscardsIt) {
     EXPECT_TRUE(f.documents.writes.empty());
 }
 
+TEST_F(Lifecycle, ANewIconHasOneBlankImageOfTheChosenFormat) {
+    Start();
+    Draw({1, 1});
+    f.presenter.answer = MessageAnswer::Cancel;
+    EXPECT_FALSE(editor.Document().NewIcon({48, 20, 4, true}));
+    EXPECT_FALSE(editor.Document().Unmodified());
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(editor.Document().NewIcon({48, 257, 4, true}));
+    EXPECT_FALSE(editor.Document().NewIcon({48, 20, 2, true}));
+    EXPECT_FALSE(editor.Document().Unmodified());
+    ASSERT_TRUE(editor.Document().NewIcon({48, 20, 4, true}));
+    ASSERT_EQ(editor.Set().Count(), 1);
+    EXPECT_EQ(AttributesOf(editor.Set().Info(0)), (ImageAttributes{48, 20, 4, true}));
+    EXPECT_EQ(editor.CurrentImage().Color(47, 19), TransparentColor);
+    EXPECT_TRUE(editor.Document().Unmodified());
+}
+
 TEST_F(Lifecycle, YesSavesAndAFailedOrRefusedSaveBecomesCancel) {
     Start();
     Draw({1, 1});
@@ -261,6 +279,16 @@ TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
     EXPECT_EQ(editor.Set().Info(0).Width(), 48);
     EXPECT_EQ(editor.Inspector().Panel().state, InspectorState::AllBlank);
+
+    // A template saved by the template editor is there once the library is read again.
+    TemplateEntry tiny;
+    tiny.widthMinus1 = tiny.heightMinus1 = 7;
+    ASSERT_TRUE(WriteTemplateFile(f.folders.userTemplates / "Tiny.ini", {tiny}));
+    EXPECT_EQ(editor.Settings().Templates().Find("Tiny"), nullptr);
+    const std::size_t before = editor.Settings().Templates().Templates().size();
+    editor.Settings().ReloadTemplates();
+    EXPECT_NE(editor.Settings().Templates().Find("Tiny"), nullptr);
+    EXPECT_EQ(editor.Settings().Templates().Templates().size(), before + 1);
 }
 
 TEST_F(Lifecycle, ShutdownWritesTheStores) {

@@ -106,6 +106,9 @@ class RecordingObserver : public IEditorObserver {
     void UndoStateChanged() override { ++events["undo"]; }
     void InspectorChanged() override { ++events["inspector"]; }
     void RecentFilesChanged() override { ++events["recent"]; }
+    void SelectionChanged() override { ++events["selection"]; }
+    void HotspotChanged() override { ++events["hotspot"]; }
+    void EditRequestChanged() override { ++events["editRequest"]; }
     std::map<std::string, int> events;
 };
 
@@ -150,17 +153,30 @@ struct BasicEditorFixture {
 
 using EditorFixture = BasicEditorFixture<FakeDocumentStore>;
 
-// A set of one image of the given size and depth, every pixel `color` (alpha 255).
-inline IconSet SolidSet(int side, int bits, PackedColor color) {
+// A set of one image of the given size and depth, pixel (x, y) colourAt(x, y), alpha 255.
+template <typename ColorAt>
+IconSet FilledSet(int side, int bits, ColorAt colorAt) {
     IconSet set;
     const int index = set.AddIcon(side - 1, side - 1, bits);
     for (int x = 0; x < side; ++x) {
         for (int y = 0; y < side; ++y) {
-            set.Image(index).Color(x, y) = color;
+            set.Image(index).Color(x, y) = colorAt(x, y);
             set.Image(index).Alpha(x, y) = 255;
         }
     }
     return set;
+}
+
+inline IconSet SolidSet(int side, int bits, PackedColor color) {
+    return FilledSet(side, bits, [color](int, int) { return color; });
+}
+
+// Every pixel its own colour: (x, y, 50).
+inline PackedColor PatternColor(int x, int y) {
+    return PackColor(x, y, 50);
+}
+inline IconSet PatternSet(int side, int bits) {
+    return FilledSet(side, bits, PatternColor);
 }
 
 }  // namespace iw::test

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "editor/EditorSettings.h"
+#include "editor/NumberText.h"
 #include "editor/RecentFiles.h"
 
 namespace iw {
@@ -115,6 +116,18 @@ TEST(RecentFiles, ReorderExactlyByWhichEntryIsOpened) {
     AddRecentFile(sparse, "x");
     EXPECT_EQ(MoveRecentFileToTop(sparse, 3), "NA");
     EXPECT_EQ(RecentFiles(sparse), (Files{"x", "NA", "NA", "NA"}));
+}
+
+// Typed and stored whole numbers: blanks round them are trimmed, anything else must be a
+// plain integer that fits.
+TEST(Settings, IntegerTextsAreTrimmedThenTakenWholeOrNotAtAll) {
+    const std::pair<const char*, std::optional<int>> cases[] = {
+        {" 12 ", 12},       {"\t+7\r\n", 7}, {"-2147483648", INT32_MIN},
+        {"2147483648", {}}, {"12.5", {}},    {"1 2", {}},
+        {"+-1", {}},        {"  ", {}},
+    };
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(ParseInteger(text), value) << '"' << text << '"';
 }
 
 }  // namespace

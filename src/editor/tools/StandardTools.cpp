@@ -15,6 +15,7 @@ ToolSet StandardTools() {
     const auto put = [&](ToolId id, std::unique_ptr<ITool> tool) {
         tools[static_cast<std::size_t>(id)] = std::move(tool);
     };
+    put(ToolId::Select, MakeSelectTool());
     put(ToolId::Fill, MakeFillTool());
     put(ToolId::Airbrush, MakeAirbrushTool());
     put(ToolId::PickColor, MakePickColorTool());

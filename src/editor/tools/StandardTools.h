@@ -12,9 +12,11 @@ namespace iw {
 // One slot per ToolId; an empty slot is a tool that does nothing on the canvas.
 using ToolSet = std::array<std::unique_ptr<ITool>, kToolCount>;
 
-// Every tool built so far. Select and Text are still to come: their slots stay empty.
+// Every tool of the tool bar. Text has no slot: its key opens the text dialog instead of
+// waiting for the canvas, and placed text floats for the Select tool (EditCommands).
 ToolSet StandardTools();
 
+std::unique_ptr<ITool> MakeSelectTool();
 std::unique_ptr<ITool> MakePencilTool();
 std::unique_ptr<ITool> MakeAirbrushTool();
 std::unique_ptr<ITool> MakeFillTool();

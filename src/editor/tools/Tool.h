@@ -30,7 +30,7 @@ struct PointerEvent {
 };
 
 // The keys the canvas passes to the current tool: the arrows move a floating selection by a
-// cell, Enter drops it and Escape lets go of it.
+// cell (eight with Shift), Enter and Escape drop it, Delete throws it away.
 enum class CanvasKey { Left, Right, Up, Down, Enter, Escape, Delete };
 
 struct KeyEvent {
@@ -43,15 +43,22 @@ struct KeyEvent {
 enum class CursorHint { Tool, Move };
 
 // A picture held above the image and not yet part of it: the Select tool's lifted
-// rectangle, or the Text tool's rendered text. The canvas paints it over the image at its
+// rectangle, a pasted picture or placed text. The canvas paints it over the image at its
 // origin; dropping it paints it into the image.
 class IFloatingSelection {
   public:
     virtual ~IFloatingSelection() = default;
     // The image cell of its top-left corner (it may lie partly outside the image).
     virtual Point Origin() const = 0;
-    // Its pixels: the top-left width by height cells of both planes.
+    // Its pixels: the top-left width by height cells of both planes, at the depth of the
+    // image it floats over.
     virtual const IconImage& Pixels() const = 0;
+    // Its outline in image cells.
+    CellRect Rect() const {
+        const IconInfo& info = Pixels().info;
+        return {Origin().x, Origin().y, info.Width(), info.Height()};
+    }
+    virtual void MoveTo(Point origin) = 0;
     // Paints it into `image`: opaque copies every pixel, transparent leaves the image's own
     // pixel wherever the selection's is transparent.
     virtual void Drop(IconImage& image, SelectionMode mode) = 0;
@@ -87,6 +94,7 @@ struct ToolContext {
 // What an event did, so the canvas repaints only what it must.
 struct ToolResult {
     bool imageChanged = false;
+    bool selectionChanged = false;  // the floating selection or the rubber band
 };
 
 // The colour a painting tool plots for the button: the left button paints with the
@@ -111,6 +119,8 @@ class ITool {
     }
     // A stroke was cut short (another image, a new set): forget it.
     virtual void Cancel() {}
+    // The rectangle being dragged out while the button is held, clipped to the image.
+    virtual std::optional<CellRect> RubberBand() const { return std::nullopt; }
 };
 
 }  // namespace iw
