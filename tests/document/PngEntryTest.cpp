@@ -4,6 +4,7 @@
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "document/io/ImageRgba.h"
+#include "document/io/PngEntryEncoder.h"
 #include "support/IcoBuilder.h"
 #include "support/TestSupport.h"
 
@@ -79,6 +80,23 @@ TEST(PngEntries, RoundTripThroughWriterAndReader) {
     auto again = (f.dir / "again.ico").string();
     ASSERT_TRUE(WriteIconFile(again, back, f.context));
     EXPECT_EQ(test::ReadFileBytes(again), b);
+}
+
+// Windows reads the PNG of an icon entry as 32-bit ARGB only, so an entry is always written
+// as 8-bit RGBA, even where a palette or a colour key would hold its pixels exactly.
+TEST(PngEntries, AreWrittenAsEightBitRgba) {
+    IconImage image;
+    image.info = {15, 15, 32, 0, 1};
+    for (int y = 0; y < 16; ++y) {
+        for (int x = 0; x < 16; ++x) {
+            image.Color(x, y) = x < 8 ? PackColor(255, 0, 0) : 0;
+            image.Alpha(x, y) = x < 8 ? 255 : 0;
+        }
+    }
+    const std::vector<std::uint8_t> stream = EncodePngEntry(image);
+    ASSERT_GT(stream.size(), 26u);
+    EXPECT_EQ(stream[24], 8);  // IHDR bit depth
+    EXPECT_EQ(stream[25], 6);  // IHDR colour type: RGBA
 }
 
 // An entry is decoded only when its pixels are needed, and saved as the bytes it was read

@@ -52,7 +52,8 @@ bool DecodePngStream(std::span<const std::uint8_t> stream, RgbaImage& image,
 }
 
 bool EncodePngStream(std::int32_t width, std::int32_t height, std::span<const std::uint8_t> rgba,
-                     std::vector<std::uint8_t>& png, const PngProperties& properties) {
+                     std::vector<std::uint8_t>& png, const PngProperties& properties,
+                     PngPixelLayout layout) {
     png.clear();
     if (width <= 0 || height <= 0 ||
         rgba.size() != static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 4) {
@@ -71,6 +72,7 @@ bool EncodePngStream(std::int32_t width, std::int32_t height, std::span<const st
         }
     }
     cPNGWriter writer;
+    writer.SetPixelLayout(layout);
     return writer.SaveToStream(dib, png, properties);
 }
 

@@ -8,6 +8,7 @@
 
 #include "codec/png/DecodeLimits.h"
 #include "codec/png/PngProperties.h"
+#include "codec/png/cPNGWriter.h"
 
 namespace iw {
 
@@ -36,8 +37,10 @@ bool DecodePngStream(std::span<const std::uint8_t> stream, png::RowSink& sink,
                      const DecodeLimits& limits = IconEntryLimits());
 
 // Encodes `width` x `height` straight RGBA pixels (top row first) as a PNG stream into
-// `png` (replaced). False when the sizes do not match the pixels or compression fails.
+// `png` (replaced), in the smallest lossless layout or, for icon entries, always 8-bit
+// RGBA. False when the sizes do not match the pixels or compression fails.
 bool EncodePngStream(std::int32_t width, std::int32_t height, std::span<const std::uint8_t> rgba,
-                     std::vector<std::uint8_t>& png, const PngProperties& properties = {});
+                     std::vector<std::uint8_t>& png, const PngProperties& properties = {},
+                     PngPixelLayout layout = PngPixelLayout::Smallest);
 
 }  // namespace iw

@@ -71,10 +71,12 @@ bool cPNGWriter::EncodeImage(const c32bppDIB& image, ImageChunks& chunks) {
         error_ = PngError::EncodeFailed;
         return false;
     }
-    const png::ColorStats stats = png::AnalyzeColors(image);
+    const std::vector<png::Encoding> candidates =
+        layout_ == PngPixelLayout::Rgba8
+            ? std::vector<png::Encoding>{png::Encoding{}}
+            : png::CandidateEncodings(png::AnalyzeColors(image), image.Width(), image.Height());
     bool found = false;
-    for (const png::Encoding& encoding :
-         png::CandidateEncodings(stats, image.Width(), image.Height())) {
+    for (const png::Encoding& encoding : candidates) {
         const std::vector<std::uint8_t> rows = png::PackRows(image, encoding);
         const std::size_t rowBytes = png::RowBytes(encoding, image.Width());
         const std::size_t stride = png::FilterStride(encoding.colorType, encoding.bitDepth);

@@ -20,8 +20,15 @@ namespace iw {
 
 class c32bppDIB;
 
+// How the writer lays out the pixels: the smallest lossless colour type and depth it finds,
+// or always 8-bit RGBA (colour type 6), which is what Windows asks of the PNG images inside
+// icons and what other icon readers expect there.
+enum class PngPixelLayout { Smallest, Rgba8 };
+
 class cPNGWriter {
   public:
+    void SetPixelLayout(PngPixelLayout layout) { layout_ = layout; }
+
     // Bytes of image data per IDAT chunk.
     static constexpr std::size_t kIdatChunkSize = 65536;
 
@@ -51,6 +58,7 @@ class cPNGWriter {
 
   private:
     PngError error_ = PngError::None;
+    PngPixelLayout layout_ = PngPixelLayout::Smallest;
 };
 
 }  // namespace iw
