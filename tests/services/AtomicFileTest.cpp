@@ -80,6 +80,17 @@ TEST(AtomicFile, FileSizeLimitPartWayFailsAndLeavesTheOldFile) {
     EXPECT_EQ(FilesIn(dir.Path()), 1u);
 }
 
+TEST(AtomicFile, WritingThroughALinkReplacesTheFileBehindItAndKeepsTheLink) {
+    test::TempDir dir;
+    const auto real = dir / "real.txt";
+    const auto link = dir / "link.txt";
+    test::WriteFileBytes(real, {1, 2, 3});
+    std::filesystem::create_symlink(real, link);
+    ASSERT_TRUE(WriteFileAtomically(link, AsBytes("new")));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(test::ReadFileBytes(real), (std::vector<std::uint8_t>{'n', 'e', 'w'}));
+}
+
 TEST(AtomicFile, MissingFolderFails) {
     test::TempDir dir;
     EXPECT_FALSE(WriteFileAtomically(dir / "no" / "such.ico", AsBytes("x")));

@@ -19,14 +19,23 @@ std::filesystem::path TempNameBeside(const std::filesystem::path& target, int at
     return target.parent_path() / name;
 }
 
+// A link is kept: the file it leads to is the one replaced, beside itself.
+std::filesystem::path FileBehindLinks(const std::filesystem::path& target) {
+    std::error_code ec;
+    if (!std::filesystem::is_symlink(target, ec)) return target;
+    std::filesystem::path real = std::filesystem::weakly_canonical(target, ec);
+    return ec ? target : real;
+}
+
 }  // namespace
 
 AtomicFile::~AtomicFile() {
     Discard();
 }
 
-bool AtomicFile::Open(const std::filesystem::path& target) {
+bool AtomicFile::Open(const std::filesystem::path& requested) {
     Discard();
+    const std::filesystem::path target = FileBehindLinks(requested);
     target_ = target;
     failed_ = false;
     for (int attempt = 0; attempt < 16; ++attempt) {

@@ -29,15 +29,9 @@ TextFileRead ReadTextFile(const std::filesystem::path& file, std::size_t maxByte
 }
 
 bool WriteTextFileIfChanged(const std::filesystem::path& file, std::string_view text) {
-    std::error_code ec;
-    std::filesystem::path target = file;
-    if (std::filesystem::is_symlink(file, ec)) {
-        target = std::filesystem::weakly_canonical(file, ec);
-        if (ec) return false;
-    }
-    const TextFileRead old = ReadTextFile(target);
+    const TextFileRead old = ReadTextFile(file);
     if (old.status == TextFileRead::Status::Read && old.text == text) return true;
-    return WriteFileAtomically(target, std::as_bytes(std::span(text.data(), text.size())));
+    return WriteFileAtomically(file, std::as_bytes(std::span(text.data(), text.size())));
 }
 
 }  // namespace iw
