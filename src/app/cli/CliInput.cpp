@@ -12,19 +12,16 @@
 #include "document/io/PictureLoading.h"
 #include "imaging/Resampler.h"
 #include "services/core/AtomicFile.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw::cli {
 namespace {
 
 bool ParseInt(const std::string& text, int low, int high, int& value) {
-    if (text.empty() || text.size() > 6) return false;
-    std::size_t used = 0;
-    try {
-        value = std::stoi(text, &used);
-    } catch (...) {
-        return false;
-    }
-    return used == text.size() && value >= low && value <= high;
+    const std::optional<int> parsed = ParseInteger<int>(text);
+    if (!parsed || *parsed < low || *parsed > high) return false;
+    value = *parsed;
+    return true;
 }
 
 std::string Lower(std::string text) {

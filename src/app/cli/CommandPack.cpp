@@ -6,6 +6,7 @@
 #include "Commands.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/PictureImport.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw::cli {
 namespace {
@@ -44,9 +45,9 @@ bool ParseItem(const std::string& text, PackItem& item) {
     if (parts.size() > 3 || parts[0].empty()) return false;
     item.path = parts[0];
     if (parts.size() >= 2) {
-        const std::string& bpp = parts[1];
-        if (bpp != "1" && bpp != "4" && bpp != "8" && bpp != "24" && bpp != "32") return false;
-        item.bitCount = std::stoi(bpp);
+        const std::optional<int> bpp = ParseInteger<int>(parts[1]);
+        if (!bpp || (*bpp != 1 && *bpp != 4 && *bpp != 8 && *bpp != 24 && *bpp != 32)) return false;
+        item.bitCount = *bpp;
     }
     if (parts.size() == 3) {
         if (parts[2] != "png") return false;

@@ -5,6 +5,7 @@
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IcoLayout.h"
 #include "services/core/CheckedBytes.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
@@ -105,10 +106,10 @@ std::vector<int> ParseSequence(const std::string& text) {
     while (at < text.size()) {
         std::size_t comma = text.find(',', at);
         if (comma == std::string::npos) comma = text.size();
-        const std::string item = text.substr(at, comma - at);
-        if (!item.empty() && item.size() <= 6 &&
-            std::all_of(item.begin(), item.end(), [](char c) { return c >= '0' && c <= '9'; })) {
-            frames.push_back(std::stoi(item));
+        // Frame numbers only: anything else between the commas is passed over.
+        if (const auto frame =
+                ParseInteger<std::uint16_t>(std::string_view(text).substr(at, comma - at))) {
+            frames.push_back(*frame);
         }
         at = comma + 1;
     }
