@@ -12,7 +12,7 @@
 #             cursor groups POINTER and 7 (hotspot 5, 7). String names come first.
 #   cursors   cursor group 7 and no icon group
 #   noicons   no group; an RCDATA holding an icon file, whose bitmaps the scan finds
-#   small     icon group 1 in two languages and cursor group 7: the fuzzer's seeds
+#   small     icon group 1 in two languages (1-bit, 4-bit) and cursor group 7: the fuzzer's seeds
 # The .rc files carry no comments: they are read without a C preprocessor.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
