@@ -135,24 +135,25 @@ bool SameName(const pe::ResourceName& name, const std::string& wanted) {
     });
 }
 
+std::uint32_t ImageKey(std::uint16_t type, std::uint16_t number) {
+    return (std::uint32_t{type} << 16) | number;
+}
+
 // A group's images, found by number (and language) among the program's images.
 class GroupImages {
   public:
-    GroupImages(std::span<const std::uint8_t> file, const std::vector<pe::Resource>& images)
-        : file_(file) {
-        for (const pe::Resource& image : images) {
-            if (!image.name.isText) byNumber_.emplace(Key(image.type, image.name.number), &image);
-        }
-    }
+    GroupImages(std::span<const std::uint8_t> file,
+                const std::map<std::uint32_t, pe::Resource>& images)
+        : file_(file), images_(images) {}
 
     ImageLocation Locate(ResourceGroupKind kind, std::uint16_t number,
                          std::uint16_t language) const {
         ImageLocation at;
         const std::uint16_t type = kind == ResourceGroupKind::Icon ? pe::kRtIcon : pe::kRtCursor;
-        const auto found = byNumber_.find(Key(type, number));
-        if (found == byNumber_.end()) return at;
+        const auto found = images_.find(ImageKey(type, number));
+        if (found == images_.end()) return at;
         const std::span<const std::uint8_t> data =
-            DataOf(file_, *LanguageOf(*found->second, language));
+            DataOf(file_, *LanguageOf(found->second, language));
         if (data.empty()) return at;
         const std::uint64_t offset = static_cast<std::uint64_t>(data.data() - file_.data());
         if (kind == ResourceGroupKind::Icon) {
@@ -168,11 +169,8 @@ class GroupImages {
     }
 
   private:
-    static std::uint32_t Key(std::uint16_t type, std::uint16_t number) {
-        return (std::uint32_t{type} << 16) | number;
-    }
     std::span<const std::uint8_t> file_;
-    std::map<std::uint32_t, const pe::Resource*> byNumber_;
+    const std::map<std::uint32_t, pe::Resource>& images_;
 };
 
 ResourceGroupKind KindOf(const pe::Resource& group) {
@@ -203,8 +201,10 @@ std::optional<ProgramIconTable> ProgramIconTable::Read(std::span<const std::uint
         return table;
     }
     for (pe::Resource& resource : *resources) {
-        if (resource.type == pe::kRtIcon || resource.type == pe::kRtCursor) {
-            table.images_.push_back(std::move(resource));
+        if ((resource.type == pe::kRtIcon || resource.type == pe::kRtCursor) &&
+            !resource.name.isText) {
+            table.images_.emplace(ImageKey(resource.type, resource.name.number),
+                                  std::move(resource));
         }
     }
     // Icon groups first: they are what a program shows.

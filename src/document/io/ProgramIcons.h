@@ -16,6 +16,7 @@
 // group directory's sides, as an icon file entry whose data is missing does.
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -78,7 +79,8 @@ class ProgramIconTable {
   private:
     std::vector<ResourceGroup> groups_;
     std::vector<pe::Resource> groupResources_;  // parallel to groups_
-    std::vector<pe::Resource> images_;          // every RT_ICON and RT_CURSOR
+    // Every numbered RT_ICON and RT_CURSOR, by type (high 16 bits) and number.
+    std::map<std::uint32_t, pe::Resource> images_;
     bool refused_ = false;
 };
 
