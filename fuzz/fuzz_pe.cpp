@@ -1,5 +1,5 @@
 // The reader of programs' icon and cursor groups on arbitrary bytes: the PE headers, the
-// section table, the resource tree and the groups. The last input byte picks the group
+// section table and the resource tree, or the NE resource table, and the groups. The last input byte picks the group
 // (0 the first icon group, else that group's index less one). Whatever reads is written
 // again as an icon, a cursor and an animated cursor, in memory, and must read back.
 

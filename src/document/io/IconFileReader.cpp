@@ -6,7 +6,6 @@
 
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconReaderSteps.h"
-#include "document/io/PeImage.h"
 #include "document/io/PictureSignature.h"
 #include "document/io/ProgramIcons.h"
 #include "services/core/TextCatalog.h"
@@ -78,7 +77,7 @@ IconReadResult ReadIconData(std::span<const std::uint8_t> FileBytes, const std::
         return *fromProgram;
     }
     IconReadResult result;
-    result.program = pe::LooksLikeProgram(FileBytes);
+    result.program = LooksLikeProgram(FileBytes);
     detail::EntryTable entries;
     if (UpperExtension3(path) == "ICO") {
         result.status = detail::ReadDirectory(FileBytes, set, entries);

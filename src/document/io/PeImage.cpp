@@ -83,13 +83,13 @@ bool IsPeHeader(std::span<const std::uint8_t> header) {
     return magic == kMagicPe32 || magic == kMagicPe32Plus;
 }
 
-bool LooksLikeProgram(std::span<const std::uint8_t> file) {
+bool LooksLikePeImage(std::span<const std::uint8_t> file) {
     const std::optional<std::uint32_t> pe = PeHeaderOffset(file);
     return pe && *pe < file.size() && IsPeHeader(file.subspan(*pe));
 }
 
 std::optional<ImageHeaders> ReadImageHeaders(std::span<const std::uint8_t> file) {
-    if (!LooksLikeProgram(file)) return std::nullopt;
+    if (!LooksLikePeImage(file)) return std::nullopt;
     const std::uint32_t pe = LoadLE32(file.data() + kLfanewAt);
     const std::uint8_t* coff = file.data() + pe + 4;
     const std::uint32_t sectionCount = LoadLE16(coff + 2);

@@ -54,7 +54,7 @@ std::optional<std::uint32_t> PeHeaderOffset(std::span<const std::uint8_t> head);
 bool IsPeHeader(std::span<const std::uint8_t> header);
 
 // Both of the above on a whole file: it is a Windows program or library of 32 or 64 bits.
-bool LooksLikeProgram(std::span<const std::uint8_t> file);
+bool LooksLikePeImage(std::span<const std::uint8_t> file);
 
 // The headers when `file` is a PE32 or PE32+ image whose headers and section table lie in
 // the file; nothing for anything else (a 16-bit program among them).

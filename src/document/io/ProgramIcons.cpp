@@ -8,6 +8,7 @@
 #include "document/io/BitmapDecoder.h"
 #include "document/io/IcoLayout.h"
 #include "document/io/IconReaderSteps.h"
+#include "document/io/NeResources.h"
 #include "document/io/PngEntryDecoder.h"
 #include "services/core/CheckedBytes.h"
 
@@ -190,12 +191,17 @@ std::optional<std::vector<GroupEntry>> EntriesOf(std::span<const std::uint8_t> f
 }  // namespace
 
 std::optional<ProgramIconTable> ProgramIconTable::Read(std::span<const std::uint8_t> file) {
-    const std::optional<pe::ImageHeaders> headers = pe::ReadImageHeaders(file);
-    if (!headers) return std::nullopt;
-    ProgramIconTable table;
     static constexpr std::array<std::uint16_t, 4> kTypes{pe::kRtCursor, pe::kRtIcon,
                                                          pe::kRtGroupCursor, pe::kRtGroupIcon};
-    std::optional<std::vector<pe::Resource>> resources = pe::ReadResources(file, *headers, kTypes);
+    std::optional<std::vector<pe::Resource>> resources;
+    if (const std::optional<pe::ImageHeaders> headers = pe::ReadImageHeaders(file)) {
+        resources = pe::ReadResources(file, *headers, kTypes);
+    } else if (ne::LooksLikeNeImage(file)) {
+        resources = ne::ReadResources(file, kTypes);
+    } else {
+        return std::nullopt;
+    }
+    ProgramIconTable table;
     if (!resources) {
         table.refused_ = true;
         return table;
@@ -294,12 +300,16 @@ bool IsProgramFile(const std::string& path) {
         return false;
     const std::optional<std::uint32_t> offset = pe::PeHeaderOffset(head);
     if (!offset) return false;
-    std::vector<std::uint8_t> header(26);  // signature, COFF header, magic
+    // PE: the signature, the COFF header and the magic; NE: its header to 0x28.
+    std::vector<std::uint8_t> header(0x28);
     in.seekg(*offset);
-    if (!in.read(reinterpret_cast<char*>(header.data()),
-                 static_cast<std::streamsize>(header.size())))
-        return false;
-    return pe::IsPeHeader(header);
+    in.read(reinterpret_cast<char*>(header.data()), static_cast<std::streamsize>(header.size()));
+    header.resize(static_cast<std::size_t>(in.gcount()));
+    return pe::IsPeHeader(header) || ne::IsNeHeader(header);
+}
+
+bool LooksLikeProgram(std::span<const std::uint8_t> file) {
+    return pe::LooksLikePeImage(file) || ne::LooksLikeNeImage(file);
 }
 
 std::optional<ProgramFile> ProgramFile::Open(const std::string& path,

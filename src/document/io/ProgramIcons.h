@@ -1,8 +1,8 @@
 #pragma once
-// The icons and cursors a Windows program or library (.exe, .dll, .ocx, .cpl, .scr, .icl
-// in the PE format) carries as resources: its icon groups (RT_GROUP_ICON, each listing
-// RT_ICON images by number) and cursor groups (RT_GROUP_CURSOR, listing RT_CURSOR images
-// whose data starts with the hotspot's two 16-bit words).
+// The icons and cursors a Windows program or library (.exe, .dll, .ocx, .cpl, .scr, .icl;
+// PE images of 32 and 64 bits, and the NE images of 16-bit Windows) carries as resources: its icon
+// groups (RT_GROUP_ICON, each listing RT_ICON images by number) and cursor groups (RT_GROUP_CURSOR,
+// listing RT_CURSOR images whose data starts with the hotspot's two 16-bit words).
 //
 //   group directory   reserved 0 | type 1 icon, 2 cursor | count
 //   entries (14)      icon:   width | height | colour count | reserved (bytes), planes,
@@ -52,8 +52,8 @@ struct ResourceGroup {
 // The icon and cursor groups of one program file.
 class ProgramIconTable {
   public:
-    // Nothing when `file` is not a PE image. An image without a resource table, or whose
-    // table is refused as unsound (Refused()), has no groups.
+    // Nothing when `file` is no PE or NE image. An image without a resource table, or
+    // whose table is refused as unsound (Refused()), has no groups.
     static std::optional<ProgramIconTable> Read(std::span<const std::uint8_t> file);
 
     // Icon groups first, then cursor groups, each in table order, each in its first language.
@@ -84,7 +84,9 @@ class ProgramIconTable {
     bool refused_ = false;
 };
 
-// True when the file at `path` is a PE program or library (its headers only are read).
+// True when `file` is a Windows program or library: a PE or an NE image.
+bool LooksLikeProgram(std::span<const std::uint8_t> file);
+// The same for the file at `path`, of which only the headers are read.
 bool IsProgramFile(const std::string& path);
 
 // A program file read whole, with its groups: what the group picker and the command line
@@ -92,7 +94,7 @@ bool IsProgramFile(const std::string& path);
 class ProgramFile {
   public:
     // Nothing when the file cannot be read (or is longer than the limits allow) or is no
-    // PE image. Shows nothing.
+    // program. Shows nothing.
     static std::optional<ProgramFile> Open(const std::string& path,
                                            const IconReadLimits& limits = {});
 
