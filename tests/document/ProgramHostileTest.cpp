@@ -23,27 +23,10 @@ using test::Bytes;
 using test::PutLE16;
 using test::PutLE32;
 
-test::BitmapSpec Pattern(int side) {
-    test::BitmapSpec spec;
-    spec.width = spec.height = side;
-    spec.pixel = [](int x, int y) {
-        return test::Rgba{static_cast<std::uint8_t>(x * 20), static_cast<std::uint8_t>(y * 30), 90,
-                          255};
-    };
-    return spec;
-}
-
 // An icon group "1" of one 8 x 8 image (RT_ICON 1) and a cursor group "ARROW" of one
 // 6 x 6 image with hotspot 3, 4 (RT_CURSOR 2), in this order in the table.
 std::vector<test::PeResourceSpec> TwoGroups() {
-    const Bytes icon = test::BuildBitmap(Pattern(8));
-    const Bytes cursor = test::BuildBitmap(Pattern(6));
-    return {
-        {pe::kRtIcon, 1, "", 1033, icon},
-        {pe::kRtCursor, 2, "", 1033, test::CursorImage(3, 4, cursor)},
-        {pe::kRtGroupIcon, 1, "", 1033, test::BuildGroupDirectory({{8, 8, 32, 1}})},
-        {pe::kRtGroupCursor, 0, "ARROW", 1033, test::BuildGroupDirectory({{6, 6, 32, 2}}, true)},
-    };
+    return test::IconAndCursorGroups("1", "ARROW", 1033);
 }
 
 struct Built {

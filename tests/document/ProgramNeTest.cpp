@@ -69,24 +69,9 @@ Bytes BuildNe(const std::vector<test::PeResourceSpec>& resources, std::uint16_t 
     return out;
 }
 
-test::BitmapSpec Pattern(int side) {
-    test::BitmapSpec spec;
-    spec.width = spec.height = side;
-    spec.pixel = [](int x, int y) {
-        return test::Rgba{static_cast<std::uint8_t>(x * 20), static_cast<std::uint8_t>(y * 30), 90,
-                          255};
-    };
-    return spec;
-}
-
 // Icon group "MAIN" of RT_ICON 1 (8 x 8), cursor group 5 of RT_CURSOR 2 (6 x 6, hotspot 3, 4).
 std::vector<test::PeResourceSpec> Library() {
-    return {
-        {pe::kRtIcon, 1, "", 0, test::BuildBitmap(Pattern(8))},
-        {pe::kRtCursor, 2, "", 0, test::CursorImage(3, 4, test::BuildBitmap(Pattern(6)))},
-        {pe::kRtGroupIcon, 0, "MAIN", 0, test::BuildGroupDirectory({{8, 8, 32, 1}})},
-        {pe::kRtGroupCursor, 5, "", 0, test::BuildGroupDirectory({{6, 6, 32, 2}}, true)},
-    };
+    return test::IconAndCursorGroups("MAIN", "5", 0);
 }
 
 // Resource i's 12 bytes in the table built above.

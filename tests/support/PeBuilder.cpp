@@ -185,4 +185,32 @@ Bytes CursorImage(int hotspotX, int hotspotY, const Bytes& image) {
     return out;
 }
 
+BitmapSpec PatternBitmap(int side) {
+    BitmapSpec spec;
+    spec.width = spec.height = side;
+    spec.pixel = [](int x, int y) {
+        return Rgba{static_cast<std::uint8_t>(x * 20), static_cast<std::uint8_t>(y * 30), 90, 255};
+    };
+    return spec;
+}
+
+std::vector<PeResourceSpec> IconAndCursorGroups(const std::string& iconGroup,
+                                                const std::string& cursorGroup,
+                                                std::uint16_t language) {
+    auto named = [language](std::uint16_t type, const std::string& name, Bytes data) {
+        PeResourceSpec spec{type, 0, name, language, std::move(data)};
+        if (std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+            spec.number = static_cast<std::uint16_t>(std::stoi(name));
+            spec.text.clear();
+        }
+        return spec;
+    };
+    return {
+        {3, 1, "", language, BuildBitmap(PatternBitmap(8))},
+        {1, 2, "", language, CursorImage(3, 4, BuildBitmap(PatternBitmap(6)))},
+        named(14, iconGroup, BuildGroupDirectory({{8, 8, 32, 1}})),
+        named(12, cursorGroup, BuildGroupDirectory({{6, 6, 32, 2}}, true)),
+    };
+}
+
 }  // namespace iw::test

@@ -61,4 +61,13 @@ Bytes BuildGroupDirectory(const std::vector<GroupEntrySpec>& entries, bool curso
 // An RT_CURSOR's data: the hotspot, then the image.
 Bytes CursorImage(int hotspotX, int hotspotY, const Bytes& image);
 
+// A 32-bit bitmap whose pixel (x, y) is red 20 x, green 30 y, blue 90.
+BitmapSpec PatternBitmap(int side);
+// RT_ICON 1 (an 8 x 8 pattern), RT_CURSOR 2 (a 6 x 6 pattern, hotspot 3, 4), an icon group
+// naming RT_ICON 1 and a cursor group naming RT_CURSOR 2, in this order. A name of digits
+// is a number.
+std::vector<PeResourceSpec> IconAndCursorGroups(const std::string& iconGroup,
+                                                const std::string& cursorGroup,
+                                                std::uint16_t language);
+
 }  // namespace iw::test
