@@ -1,7 +1,10 @@
 # Sourced by the scripts: installs the Debian packages the project needs, quietly and only
 # when some are missing. Safe to run again and again.
 
-IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev"
+# Qt 6 Widgets and Svg for the editor's window (its tests run on Qt's offscreen platform),
+# with Qt's further platform plugins.
+IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev qt6-base-dev qt6-svg-dev
+  qt6-qpa-plugins"
 IW_TEST_PACKAGES="googletest libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev
   clang libclang-rt-dev python3 python3-pil imagemagick icoutils optipng"
 

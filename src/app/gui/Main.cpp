@@ -1,0 +1,72 @@
+// iconwright: the editor. Checks that there is a display to show it on, then starts the
+// main window with the command line (a file to open, "/log", or an edit request ending in
+// ".xml").
+//
+// ICONWRIGHT_QUIT_AFTER_FIRST_PAINT=1 makes the program quit as soon as the canvas has been
+// painted once: a testing aid that lets a benchmark time start-up to the first frame.
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+
+#include "services/core/Texts.h"
+#include "ui/UiText.h"
+#include "ui/main/MainWindow.h"
+#include "ui/widgets/CanvasWidget.h"
+
+namespace {
+
+bool HasEnv(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr && *value != '\0';
+}
+
+// Without a display Qt would fail with its platform plugin's error; say what to do instead.
+bool DisplayAvailable() {
+    if (HasEnv("QT_QPA_PLATFORM") || HasEnv("DISPLAY") || HasEnv("WAYLAND_DISPLAY")) return true;
+    const iw::TextId kNoDisplay{
+        "NoDisplay", "Constants",
+        "iconwright: no display found (DISPLAY and WAYLAND_DISPLAY are not set). To try it "
+        "without one: xvfb-run -a iconwright FILE"};
+    std::fprintf(stderr, "%s\n", iw::GetText(kNoDisplay).c_str());
+    return false;
+}
+
+// The command line as one text, as the editor reads it: "/log" as given, a file as its
+// absolute path, quoted when it holds blanks.
+QString CommandLine(const QStringList& arguments) {
+    QStringList parts;
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        QString part = arguments[i];
+        if (part.compare(QStringLiteral("/log"), Qt::CaseInsensitive) != 0) {
+            part = QDir::cleanPath(QFileInfo(part).absoluteFilePath());
+            if (part.contains(QLatin1Char(' '))) part = QLatin1Char('"') + part + QLatin1Char('"');
+        }
+        parts << part;
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (!DisplayAvailable()) return 2;
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Iconwright"));
+    QApplication::setOrganizationName(QStringLiteral("Quorvale"));
+    QApplication::setApplicationVersion(QStringLiteral(IW_VERSION));
+    QApplication::setWindowIcon(iw::ui::UiIcon("iconwright"));
+    QApplication::setDesktopFileName(QStringLiteral("iconwright"));
+
+    iw::ui::MainWindow window;
+    if (HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT")) {
+        QObject::connect(window.Canvas(), &iw::ui::CanvasWidget::FirstPainted, &app,
+                         &QCoreApplication::quit, Qt::QueuedConnection);
+    }
+    const iw::StartupResult started = window.Start(CommandLine(QApplication::arguments()));
+    if (started.showStartupDialog && !HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT"))
+        window.ShowStartupDialog();
+    return QApplication::exec();
+}
