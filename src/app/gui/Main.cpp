@@ -61,12 +61,14 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("iconwright"));
 
     iw::ui::MainWindow window;
-    if (HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT")) {
-        QObject::connect(window.Canvas(), &iw::ui::CanvasWidget::FirstPainted, &app,
-                         &QCoreApplication::quit, Qt::QueuedConnection);
-    }
     const iw::StartupResult started = window.Start(CommandLine(QApplication::arguments()));
-    if (started.showStartupDialog && !HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT"))
+    if (HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT")) {
+        // The first frame the event loop paints shows what start-up made.
+        QObject::connect(window.Canvas(), &iw::ui::CanvasWidget::Painted, &app,
+                         &QCoreApplication::quit, Qt::QueuedConnection);
+        window.Canvas()->update();
+    } else if (started.showStartupDialog) {
         window.ShowStartupDialog();
+    }
     return QApplication::exec();
 }

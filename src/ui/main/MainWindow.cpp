@@ -44,6 +44,7 @@ namespace mt = main_texts;
 
 constexpr int kLeftColumnWidth = 196;
 constexpr int kRightColumnWidth = 288;  // a 256-pixel preview and its frame
+constexpr int kLogHeight = 140;
 const char* const kPreferredFont = "Segoe UI";
 
 }  // namespace
@@ -252,6 +253,7 @@ void MainWindow::RestoreWindow(const WindowSettings& window) {
 
 void MainWindow::ShowLogList() {
     log_->show();
+    resizeDocks({log_}, {kLogHeight}, Qt::Vertical);
 }
 
 void MainWindow::ShowEditRequest(const std::string& text) {

@@ -13,20 +13,48 @@ constexpr int kCheckerSquare = 8;  // logical pixels
 const QColor kCheckerLight(255, 255, 255);
 const QColor kCheckerDark(204, 209, 216);
 const QColor kInvertedGround(74, 85, 104);
-const QColor kInvertedHatch(230, 235, 242);
+const QColor kInvertedHatch(200, 210, 224);
 const QColor kGridColor(110, 118, 130, 140);
 const QColor kHotspotColor(220, 38, 38);
 
-const QBrush& CheckerBrush() {
-    static const QBrush brush = [] {
-        QImage tile(2 * kCheckerSquare, 2 * kCheckerSquare, QImage::Format_RGB32);
-        tile.fill(kCheckerLight);
-        QPainter p(&tile);
-        p.fillRect(0, 0, kCheckerSquare, kCheckerSquare, kCheckerDark);
-        p.fillRect(kCheckerSquare, kCheckerSquare, kCheckerSquare, kCheckerSquare, kCheckerDark);
-        return QBrush(tile);
-    }();
-    return brush;
+// A brush whose tile is drawn at the device's resolution, so that filling with it copies
+// the tile instead of scaling it. `paint` draws one tile in logical pixels.
+template <typename Paint>
+QBrush TileBrush(int side, qreal ratio, Paint paint) {
+    QImage tile(QSize(side, side) * ratio, QImage::Format_ARGB32_Premultiplied);
+    tile.setDevicePixelRatio(ratio);
+    QPainter p(&tile);
+    paint(p);
+    p.end();
+    return QBrush(tile);
+}
+
+// The checkerboard behind clear pixels, for the painter's device.
+const QBrush& CheckerBrush(qreal ratio) {
+    static thread_local std::pair<qreal, QBrush> cached{0, {}};
+    if (cached.first != ratio) {
+        cached = {ratio, TileBrush(2 * kCheckerSquare, ratio, [](QPainter& p) {
+                      p.fillRect(0, 0, 2 * kCheckerSquare, 2 * kCheckerSquare, kCheckerLight);
+                      p.fillRect(0, 0, kCheckerSquare, kCheckerSquare, kCheckerDark);
+                      p.fillRect(kCheckerSquare, kCheckerSquare, kCheckerSquare, kCheckerSquare,
+                                 kCheckerDark);
+                  })};
+    }
+    return cached.second;
+}
+
+// The hatch that marks inverting pixels: light lines on a dark ground, opaque.
+const QBrush& InvertedHatch(qreal ratio) {
+    static thread_local std::pair<qreal, QBrush> cached{0, {}};
+    if (cached.first != ratio) {
+        cached = {ratio, TileBrush(8, ratio, [](QPainter& p) {
+                      p.fillRect(0, 0, 8, 8, kInvertedGround);
+                      p.setRenderHint(QPainter::Antialiasing);
+                      p.setPen(QPen(kInvertedHatch, 1.2));
+                      p.drawLine(QPointF(-1, 9), QPointF(9, -1));
+                  })};
+    }
+    return cached.second;
 }
 
 // The cells of `picture` that lie under `area` (logical pixels, `size` a cell), and the
@@ -45,22 +73,31 @@ CellSpan CellsUnder(const QRect& area, QSize picture, int size) {
     return {cells, QRect(x0 * size, y0 * size, cells.width() * size, cells.height() * size)};
 }
 
-// The inverting cells under `area` in a hatch: a layer the size of the area is hatched,
+// The inverting cells of `span` in a hatch: a layer over the cells that hold any is hatched,
 // cut down to the inverting cells by the mask, and laid over the canvas.
-void PaintInverted(QPainter& painter, const QRect& area, const CellSpan& span, const QImage& mask) {
+void PaintInverted(QPainter& painter, const QRect& area, const CellSpan& span,
+                   const PixelPicture& picture, int size) {
+    const QRect cells = span.cells.intersected(picture.invertedCells);
+    if (cells.isEmpty()) return;
+    const QRect pixels = area.intersected(
+        QRect(cells.x() * size, cells.y() * size, cells.width() * size, cells.height() * size));
+    if (pixels.isEmpty()) return;
     const qreal ratio = painter.device()->devicePixelRatioF();
-    QImage layer((QSizeF(area.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    // The layer is kept from frame to frame: a viewport's worth of fresh memory each time
+    // would cost more than the drawing.
+    static thread_local QImage layer;
+    const QSize device = (QSizeF(pixels.size()) * ratio).toSize();
+    if (layer.size() != device) layer = QImage(device, QImage::Format_ARGB32_Premultiplied);
     layer.setDevicePixelRatio(ratio);
-    layer.fill(Qt::transparent);
     {
         QPainter p(&layer);
-        p.translate(-area.topLeft());
-        p.fillRect(area, kInvertedGround);
-        p.fillRect(area, QBrush(kInvertedHatch, Qt::BDiagPattern));
+        p.translate(-pixels.topLeft());
+        p.setCompositionMode(QPainter::CompositionMode_Source);
+        p.fillRect(pixels, InvertedHatch(ratio));
         p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        p.drawImage(span.pixels, mask, span.cells);
+        p.drawImage(span.pixels, picture.inverted, span.cells);
     }
-    painter.drawImage(area.topLeft(), layer);
+    painter.drawImage(pixels.topLeft(), layer);
 }
 
 void PaintGrid(QPainter& painter, const CellSpan& span, int size) {
@@ -98,7 +135,7 @@ void PaintCells(QPainter& painter, const QRect& area, const PixelPicture& pictur
     const CellSpan span = CellsUnder(area, picture.Size(), size);
     if (span.cells.isEmpty()) return;
     painter.drawImage(span.pixels, picture.colors, span.cells);
-    if (!picture.inverted.isNull()) PaintInverted(painter, area, span, picture.inverted);
+    if (!picture.inverted.isNull()) PaintInverted(painter, area, span, picture, size);
 }
 
 void PaintFloating(QPainter& painter, const QRect& exposed, const CanvasScene& scene) {
@@ -131,7 +168,7 @@ void PaintCanvas(QPainter& painter, const QRect& exposed, const CanvasScene& sce
     painter.setClipRect(area);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.setBrushOrigin(0, 0);
-    painter.fillRect(area, CheckerBrush());
+    painter.fillRect(area, CheckerBrush(painter.device()->devicePixelRatioF()));
     PaintCells(painter, area, *scene.picture, size);
     if (scene.floating && !scene.floating->colors.isNull()) PaintFloating(painter, exposed, scene);
     if (scene.showGrid && size >= kMinGridPixelSize)

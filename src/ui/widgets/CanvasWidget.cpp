@@ -94,10 +94,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
         scene.floatingOrigin = QPoint(selection->Origin().x, selection->Origin().y);
     }
     PaintCanvas(painter, event->rect(), scene);
-    if (!painted_) {
-        painted_ = true;
-        emit FirstPainted();
-    }
+    emit Painted();
 }
 
 Point CanvasWidget::CellAt(const QPointF& position) const {

@@ -25,7 +25,7 @@ class CanvasWidget final : public QWidget {
   signals:
     // The status bar text for the pixel under the mouse ("" when it leaves the image).
     void StatusTextChanged(const QString& text);
-    void FirstPainted();
+    void Painted();  // after every paint
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -46,7 +46,6 @@ class CanvasWidget final : public QWidget {
     std::optional<Qt::MouseButton> pressed_;  // the button of the stroke under way
     std::optional<QCursor> toolCursor_;
     qreal cursorRatio_ = 0;
-    bool painted_ = false;
 };
 
 }  // namespace iw::ui

@@ -16,6 +16,18 @@ constexpr int kPadding = 4;
 const TextId kBitsText{"BitsPerPixel", "Constants", "%d bit"};
 const TextId kPngMark{"PNG", "Constants", "PNG"};
 
+const QBrush& ThumbnailChecker() {
+    static const QBrush brush = [] {
+        QImage tile(8, 8, QImage::Format_RGB32);
+        tile.fill(QColor(255, 255, 255));
+        QPainter p(&tile);
+        p.fillRect(0, 0, 4, 4, QColor(214, 218, 224));
+        p.fillRect(4, 4, 4, 4, QColor(214, 218, 224));
+        return QBrush(tile);
+    }();
+    return brush;
+}
+
 }  // namespace
 
 // ---- Model ------------------------------------------------------------------------------
@@ -116,6 +128,11 @@ void IconListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     if (!thumbnail.isNull()) {
         const QSize size = (QSizeF(thumbnail.size()) / thumbnail.devicePixelRatio()).toSize();
         const QRect target(thumbBox.center() - QPoint(size.width() / 2, size.height() / 2), size);
+        // A small checkerboard under the image shows its size and its clear pixels.
+        painter->save();
+        painter->setBrushOrigin(target.topLeft());
+        painter->fillRect(target, ThumbnailChecker());
+        painter->restore();
         painter->drawImage(target, thumbnail);
     }
 

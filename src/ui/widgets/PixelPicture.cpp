@@ -39,8 +39,11 @@ PixelPicture MakePixelPicture(const IconImage& image, int width, int height) {
     for (int y = 0; y < height; ++y) {
         const auto colors = image.Row(y, IconImage::ColorPlane);
         auto* line = reinterpret_cast<QRgb*>(picture.inverted.scanLine(y));
-        for (int x = 0; x < width; ++x)
-            line[x] = colors[static_cast<std::size_t>(x)] == InverseColor ? 0xFFFFFFFFu : 0u;
+        for (int x = 0; x < width; ++x) {
+            const bool here = colors[static_cast<std::size_t>(x)] == InverseColor;
+            line[x] = here ? 0xFFFFFFFFu : 0u;
+            if (here) picture.invertedCells |= QRect(x, y, 1, 1);
+        }
     }
     return picture;
 }

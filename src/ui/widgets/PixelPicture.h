@@ -15,6 +15,7 @@ namespace iw::ui {
 struct PixelPicture {
     QImage colors;    // the image's sides, Format_ARGB32_Premultiplied
     QImage inverted;  // same sides, opaque white where the image inverts; null when it never does
+    QRect invertedCells;  // the smallest rectangle of cells holding every inverting pixel
     QSize Size() const { return colors.size(); }
 };
 

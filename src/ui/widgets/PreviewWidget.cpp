@@ -5,7 +5,8 @@
 namespace iw::ui {
 namespace {
 
-constexpr int kMinSide = 64;  // room for small icons, centred
+// Room for the largest image, so the panels below keep their place whatever is shown.
+constexpr int kSide = IconImage::kSide;
 constexpr int kCheckerSquare = 4;
 
 const QBrush& PreviewChecker() {
@@ -35,12 +36,11 @@ void PreviewWidget::SetBackground(PreviewBackground background) {
 }
 
 void PreviewWidget::ImageChanged() {
-    updateGeometry();
     update();
 }
 
 QSize PreviewWidget::sizeHint() const {
-    return picture_.Get().Size().expandedTo(QSize(kMinSide, kMinSide));
+    return {kSide, kSide};
 }
 
 void PreviewWidget::paintEvent(QPaintEvent*) {
