@@ -82,6 +82,11 @@ def check(table_path, src):
                         continue
                     if os.path.exists(os.path.join(folder, header)):
                         continue  # beside the file: its own module
+                    if header.split("/", 1)[0] in TOP_FOLDERS:
+                        if not top:
+                            problems.append(f"{where}: the core includes {header} of src/"
+                                            f"{header.split('/', 1)[0]}")
+                        continue
                     target = owner_of(header, modules)
                     if target is None:
                         problems.append(f"{where}: includes {header}, which is in no module")
@@ -110,7 +115,9 @@ def self_test():
         "mid/Local.h": "",
         "high/High.cpp": '#include "mid/Mid.h"\n#include "high/High.h"\n',
         "high/High.h": "",
-        "app/Main.cpp": '#include <QApplication>\n#include "low/Low.h"\n#include "high/High.h"\n',
+        "app/Main.cpp": '#include <QApplication>\n#include "low/Low.h"\n#include "high/High.h"\n'
+                        '#include "ui/Window.h"\n',
+        "ui/Window.h": '#include <QWidget>\n#include "mid/Mid.h"\n',
     }
     faults = {
         "includes a module it does not depend on": {"high/Skip.cpp": '#include "low/Low.h"\n'},
@@ -119,6 +126,7 @@ def self_test():
         "includes Qt core classes in the core": {"low/Str.h": "#  include <QString>\n"},
         "includes a header of no module": {"mid/Odd.cpp": '#include "nowhere/Odd.h"\n'},
         "lies outside every module": {"stray/Stray.cpp": ""},
+        "includes the Qt layer in the core": {"high/Shows.cpp": '#include "ui/Window.h"\n'},
     }
     table_faults = {
         "a dependency on the same level": "low low 0\nmid mid 1 low\nhigh high 1 mid\n",
