@@ -1,8 +1,12 @@
 #pragma once
 // Icons the benchmarks share: a painted image, and the 9-size icon (16 to 256 px, 32-bit,
-// the 256 px image PNG-compressed).
+// the 256 px image PNG-compressed), in memory or as a file.
 
+#include <string>
+
+#include "document/io/IconFileWriter.h"
 #include "document/model/IconSet.h"
+#include "support/TestSupport.h"
 
 namespace iw::bench {
 
@@ -30,6 +34,17 @@ inline IconSet NineSizeSet() {
         Paint(set.Image(i), i);
     }
     return set;
+}
+
+// The 9-size icon written to `folder` as "nine.ico"; its path.
+inline std::string WriteNineSizeIcon(const test::TempDir& folder) {
+    test::MessageFixture messages;
+    NullProgress progress;
+    NullLog log;
+    CoreContext context{messages.service, progress, log};
+    const std::string path = (folder / "nine.ico").string();
+    WriteIconFile(path, NineSizeSet(), context);
+    return path;
 }
 
 }  // namespace iw::bench

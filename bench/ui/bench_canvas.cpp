@@ -14,8 +14,6 @@
 #include <cstdlib>
 
 #include "BenchIcons.h"
-#include "document/io/IconFileWriter.h"
-#include "support/TestSupport.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/CanvasPainter.h"
 #include "ui/widgets/CanvasWidget.h"
@@ -83,13 +81,8 @@ BENCHMARK(MakePicture256)->Unit(benchmark::kMicrosecond);
 void PencilStroke100ThroughWidget(benchmark::State& state) {
     iw::test::TempDir temp;
     setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
+    const std::string icon = iw::bench::WriteNineSizeIcon(temp);
     iw::test::MessageFixture messages;
-    iw::NullProgress progress;
-    iw::NullLog log;
-    iw::CoreContext context{messages.service, progress, log};
-    const std::string icon = (temp / "nine.ico").string();
-    iw::WriteIconFile(icon, iw::bench::NineSizeSet(), context);
-
     iw::ui::MainWindowOptions options;
     options.folders.dataFolder = temp / "data";
     options.presenter = &messages.presenter;

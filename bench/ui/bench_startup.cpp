@@ -11,8 +11,6 @@
 #include <vector>
 
 #include "BenchIcons.h"
-#include "document/io/IconFileWriter.h"
-#include "support/TestSupport.h"
 
 extern char** environ;
 
@@ -49,15 +47,7 @@ bool RunProgram(const std::vector<std::string>& arguments, const std::string& da
 void Startup(benchmark::State& state, bool withIcon) {
     iw::test::TempDir temp;
     std::vector<std::string> arguments;
-    if (withIcon) {
-        iw::test::MessageFixture messages;
-        iw::NullProgress progress;
-        iw::NullLog log;
-        iw::CoreContext context{messages.service, progress, log};
-        const std::string icon = (temp / "nine.ico").string();
-        iw::WriteIconFile(icon, iw::bench::NineSizeSet(), context);
-        arguments.push_back(icon);
-    }
+    if (withIcon) arguments.push_back(iw::bench::WriteNineSizeIcon(temp));
     RunProgram(arguments, temp.Path().string());  // the settings folder, made once
     for (auto _ : state) {
         const auto start = std::chrono::steady_clock::now();

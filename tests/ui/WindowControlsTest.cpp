@@ -78,6 +78,21 @@ TEST_F(WindowControls, ChannelBoxesFollowTheCoresRules) {
     EXPECT_EQ(Find<QSlider>("sldAlpha")->value(), 40);
 }
 
+// The View menu's window settings: the inspector shown or hidden, the preview's background.
+TEST_F(WindowControls, ViewMenuHidesTheInspectorAndChoosesThePreviewBackground) {
+    Start();
+    QWidget* inspector = Find<QWidget>("picInspector");
+    ASSERT_TRUE(inspector->isVisible());
+    Trigger("mnuInspector");
+    EXPECT_FALSE(inspector->isVisible());
+    EXPECT_FALSE(editor().Settings().Window().showInspector);
+    EXPECT_FALSE(Find<QAction>("mnuInspector")->isChecked());
+    Trigger("mnuPreviewWhite");
+    EXPECT_EQ(editor().Settings().Window().previewBackground, PreviewBackground::White);
+    EXPECT_TRUE(Find<QAction>("mnuPreviewWhite")->isChecked());
+    EXPECT_FALSE(Find<QAction>("mnuPreviewGrid")->isChecked());
+}
+
 // Ctrl and the wheel zoom about the mouse: the image point under it stays there.
 TEST_F(WindowControls, WheelZoomKeepsTheCellUnderTheMouse) {
     Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());

@@ -49,17 +49,6 @@ StartupDialog::StartupDialog(Editor& editor, std::function<bool()> openFile, QWi
         item->setToolTip(QStr(entry.path));
         templates_->addItem(item);
     }
-    if (templates_->count() > 0) templates_->setCurrentRow(0);
-    auto* fromTemplate = new QPushButton(Text("cmdTemplate", "&Create"), this);
-    fromTemplate->setObjectName(QStringLiteral("cmdTemplate"));
-    fromTemplate->setEnabled(templates_->count() > 0);
-    connect(fromTemplate, &QPushButton::clicked, this, &StartupDialog::CreateFromTemplate);
-    connect(templates_, &QListWidget::itemActivated, this, &StartupDialog::CreateFromTemplate);
-    auto* templateBox = new QGroupBox(Text("fraTemplates", "New from a template"), this);
-    auto* templateLayout = new QVBoxLayout(templateBox);
-    templateLayout->addWidget(templates_);
-    templateLayout->addWidget(fromTemplate, 0, Qt::AlignRight);
-
     // Recent files.
     recent_ = new QListWidget(this);
     recent_->setObjectName(QStringLiteral("lstRecent"));
@@ -69,20 +58,12 @@ StartupDialog::StartupDialog(Editor& editor, std::function<bool()> openFile, QWi
         item->setData(Qt::UserRole, file.number);
         recent_->addItem(item);
     }
-    if (recent_->count() > 0) recent_->setCurrentRow(0);
-    auto* openRecent = new QPushButton(Text("cmdOpenRecent", "O&pen"), this);
-    openRecent->setObjectName(QStringLiteral("cmdOpenRecent"));
-    openRecent->setEnabled(recent_->count() > 0);
-    connect(openRecent, &QPushButton::clicked, this, &StartupDialog::OpenRecent);
-    connect(recent_, &QListWidget::itemActivated, this, &StartupDialog::OpenRecent);
-    auto* recentBox = new QGroupBox(Text("fraRecent", "Recent files"), this);
-    auto* recentLayout = new QVBoxLayout(recentBox);
-    recentLayout->addWidget(recent_);
-    recentLayout->addWidget(openRecent, 0, Qt::AlignRight);
 
     auto* lists = new QHBoxLayout;
-    lists->addWidget(templateBox);
-    lists->addWidget(recentBox);
+    lists->addWidget(ListBox(Text("fraTemplates", "New from a template"), templates_, "cmdTemplate",
+                             Text("cmdTemplate", "&Create"), &StartupDialog::CreateFromTemplate));
+    lists->addWidget(ListBox(Text("fraRecent", "Recent files"), recent_, "cmdOpenRecent",
+                             Text("cmdOpenRecent", "O&pen"), &StartupDialog::OpenRecent));
 
     // The start-up choice.
     startup_ = new QComboBox(this);
@@ -111,6 +92,21 @@ StartupDialog::StartupDialog(Editor& editor, std::function<bool()> openFile, QWi
     layout->addLayout(lists, 1);
     layout->addLayout(bottom);
     resize(sizeHint().expandedTo(QSize(640, 420)));
+}
+
+QGroupBox* StartupDialog::ListBox(const QString& title, QListWidget* list, const char* name,
+                                  const QString& text, void (StartupDialog::*command)()) {
+    if (list->count() > 0) list->setCurrentRow(0);
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setEnabled(list->count() > 0);
+    connect(button, &QPushButton::clicked, this, command);
+    connect(list, &QListWidget::itemActivated, this, command);
+    auto* box = new QGroupBox(title, this);
+    auto* layout = new QVBoxLayout(box);
+    layout->addWidget(list);
+    layout->addWidget(button, 0, Qt::AlignRight);
+    return box;
 }
 
 QToolButton* StartupDialog::Tile(const char* name, std::string_view icon, const QString& text,

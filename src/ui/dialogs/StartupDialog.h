@@ -9,6 +9,7 @@
 #include "editor/Editor.h"
 
 class QComboBox;
+class QGroupBox;
 class QListWidget;
 class QToolButton;
 
@@ -27,6 +28,9 @@ class StartupDialog final : public QDialog {
   private:
     QToolButton* Tile(const char* name, std::string_view icon, const QString& text,
                       std::function<bool()> command);
+    // A list with its button under a title; the button and a double click run `command`.
+    QGroupBox* ListBox(const QString& title, QListWidget* list, const char* name,
+                       const QString& text, void (StartupDialog::*command)());
     // Runs a tile's command; the dialog closes when it made or opened a set.
     void Run(const std::function<bool()>& command);
     void CreateFromTemplate();

@@ -158,6 +158,9 @@ void MainWindow::BuildLayout() {
     setCentralWidget(central);
 
     connect(canvas_, &CanvasWidget::StatusTextChanged, pixelText_, &QLabel::setText);
+    connect(canvas_, &CanvasWidget::StrokeEnded, this, [this] {
+        if (paletteStale_) RefreshPalette();
+    });
     connect(palette_, &PaletteStrip::ForeColorPicked, this,
             [this](PackedColor color) { editor_->Tools().SetForeColor(color); });
     connect(palette_, &PaletteStrip::BackColorPicked, this,
@@ -306,7 +309,12 @@ void MainWindow::ImageChanged() {
     canvas_->ImageChanged();
     preview_->ImageChanged();
     icons_->ImageChanged();
-    RefreshPalette();
+    // An 8-bit image's colours are counted again once the stroke is over, not at every move.
+    if (editor_->Canvas().Pressed()) {
+        paletteStale_ = true;
+    } else {
+        RefreshPalette();
+    }
     CaptionChanged();
 }
 
@@ -339,6 +347,7 @@ void MainWindow::RecentFilesChanged() {
 }
 
 void MainWindow::RefreshPalette() {
+    paletteStale_ = false;
     palette_->SetColors(PaletteStripColors(editor_->CurrentImage()));
 }
 

@@ -113,6 +113,7 @@ class MainWindow final : public QMainWindow, public IMainWindowView, public IEdi
     std::unique_ptr<SplashScreen> splash_;
     QFont desktopFont_;
     bool shutDown_ = false;
+    bool paletteStale_ = false;  // the image changed during a stroke
 
     MainActions* actions_ = nullptr;
     ToolBox* tools_ = nullptr;

@@ -67,7 +67,8 @@ QWidget* ToolBox::MakeToolBar() {
     bar->setAccessibleName(Tr(mt::ToolsCaption));
     auto* grid = new QGridLayout(bar);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(2);
+    grid->setSpacing(4);
+    grid->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     for (const ToolInfo& info : AllTools()) {
         const ToolId id = info.id;
         // "tbrToolsPickColor": the tool bar's name and the key without its blank.

@@ -122,6 +122,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     const Point cell = CellAt(event->position());
     editor_.Canvas().PointerRelease(cell, ModifiersOf(event->modifiers()));
     Hover(cell);
+    emit StrokeEnded();
 }
 
 void CanvasWidget::Hover(Point cell) {

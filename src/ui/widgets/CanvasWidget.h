@@ -25,7 +25,8 @@ class CanvasWidget final : public QWidget {
   signals:
     // The status bar text for the pixel under the mouse ("" when it leaves the image).
     void StatusTextChanged(const QString& text);
-    void Painted();  // after every paint
+    void Painted();      // after every paint
+    void StrokeEnded();  // the button of a stroke came up
 
   protected:
     void paintEvent(QPaintEvent* event) override;
