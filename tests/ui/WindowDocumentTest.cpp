@@ -6,26 +6,19 @@
 #include "WindowFixture.h"
 #include "document/io/IconFileReader.h"
 #include "ui/widgets/IconListView.h"
-#include "ui/widgets/PaletteStrip.h"
 
 namespace iw::test {
 namespace {
 
 const PackedColor kRed = PackColor(255, 0, 0);
 
-// Picks red from the palette strip with the left button and the Pencil with its key.
-void ChooseRedPencil(ui::MainWindow& window) {
-    auto* palette = window.findChild<ui::PaletteStrip*>(QStringLiteral("picPalette"));
-    ASSERT_NE(palette, nullptr);
-    const auto& colors = palette->Colors();
-    const auto red = std::find(colors.begin(), colors.end(), kRed);
-    ASSERT_NE(red, colors.end());
-    QTest::mouseClick(palette, Qt::LeftButton, Qt::NoModifier,
-                      palette->CellRect(static_cast<int>(red - colors.begin())).center());
-    QTest::keyClick(&window, Qt::Key_P);
-}
-
-using WindowDocument = WindowTest;
+struct WindowDocument : WindowTest {
+    // Red from the palette strip and the Pencil by its key.
+    void ChooseRedPencil() {
+        ChooseFromPalette(kRed);
+        QTest::keyClick(window.get(), Qt::Key_P);
+    }
+};
 
 TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
     Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());
@@ -49,7 +42,7 @@ TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
 
 TEST_F(WindowDocument, APencilStrokeChangesTheSetAndUndoTakesItBack) {
     Start();
-    ChooseRedPencil(*window);
+    ChooseRedPencil();
     ASSERT_EQ(editor().Tools().State().CurrentTool, ToolId::Pencil);
     ASSERT_EQ(editor().Tools().State().ForeColor, kRed);
     const PackedColor before = PixelAt({3, 4});
@@ -76,7 +69,7 @@ TEST_F(WindowDocument, APencilStrokeChangesTheSetAndUndoTakesItBack) {
 
 TEST_F(WindowDocument, AskToSaveCancelKeepsTheDrawingAndNoDiscardsIt) {
     Start();
-    ChooseRedPencil(*window);
+    ChooseRedPencil();
     Stroke({{1, 1}});
     ASSERT_EQ(PixelAt({1, 1}), kRed);
 
@@ -99,7 +92,7 @@ TEST_F(WindowDocument, AskToSaveCancelKeepsTheDrawingAndNoDiscardsIt) {
 
 TEST_F(WindowDocument, SaveAsWritesTheFileItsNameBecomesTheCaptionAndTheRecentFile) {
     Start();
-    ChooseRedPencil(*window);
+    ChooseRedPencil();
     Stroke({{2, 3}});
     files.savePath = (temp / "drawn.ico").string();
     Trigger("mnuSaveAs");

@@ -14,6 +14,7 @@
 #include "ui/adapters/FileChooser.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/CanvasWidget.h"
+#include "ui/widgets/PaletteStrip.h"
 
 namespace iw::test {
 
@@ -49,6 +50,7 @@ class WindowTest : public ::testing::Test {
   protected:
     WindowTest() {
         setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
+        std::filesystem::create_directories(temp / "data");
         ui::MainWindowOptions options;
         options.folders.dataFolder = temp / "data";
         options.folders.programTemplates = TestDataPath("../../data/Templates");
@@ -63,6 +65,7 @@ class WindowTest : public ::testing::Test {
     void Start(const std::string& commandLine = "") {
         window->Start(QString::fromStdString(commandLine));
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        QApplication::processEvents();  // the layout settles at the shown size
     }
 
     Editor& editor() { return window->GetEditor(); }
@@ -89,6 +92,16 @@ class WindowTest : public ::testing::Test {
         QTest::mouseRelease(canvas, button, Qt::NoModifier, CellCentre(cells.back()));
     }
     PackedColor PixelAt(Point cell) { return editor().CurrentImage().Color(cell.x, cell.y); }
+    // A left click on that colour of the palette strip.
+    void ChooseFromPalette(PackedColor color) {
+        auto* palette = Find<ui::PaletteStrip>("picPalette");
+        const auto& colors = palette->Colors();
+        const auto found = std::find(colors.begin(), colors.end(), color);
+        ASSERT_NE(found, colors.end());
+        QTest::mouseClick(palette, Qt::LeftButton, Qt::NoModifier,
+                          palette->CellRect(static_cast<int>(found - colors.begin())).center());
+        ASSERT_EQ(editor().Tools().State().ForeColor, color);
+    }
 
     TempDir temp;
     ScriptedPresenter presenter;

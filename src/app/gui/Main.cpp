@@ -2,17 +2,15 @@
 // main window with the command line (a file to open, "/log", or an edit request ending in
 // ".xml").
 //
-// ICONWRIGHT_QUIT_AFTER_FIRST_PAINT=1 makes the program quit as soon as the canvas has been
-// painted once: a testing aid that lets a benchmark time start-up to the first frame.
+// ICONWRIGHT_QUIT_AFTER_FIRST_PAINT=1 makes the program quit once the canvas has painted its
+// first frame after start-up: a testing aid that lets a benchmark time start-up.
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
-#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 
 #include "services/core/Texts.h"
 #include "ui/UiText.h"
+#include "ui/adapters/CommandLineText.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/CanvasWidget.h"
 
@@ -34,21 +32,6 @@ bool DisplayAvailable() {
     return false;
 }
 
-// The command line as one text, as the editor reads it: "/log" as given, a file as its
-// absolute path, quoted when it holds blanks.
-QString CommandLine(const QStringList& arguments) {
-    QStringList parts;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        QString part = arguments[i];
-        if (part.compare(QStringLiteral("/log"), Qt::CaseInsensitive) != 0) {
-            part = QDir::cleanPath(QFileInfo(part).absoluteFilePath());
-            if (part.contains(QLatin1Char(' '))) part = QLatin1Char('"') + part + QLatin1Char('"');
-        }
-        parts << part;
-    }
-    return parts.join(QLatin1Char(' '));
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -61,7 +44,8 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("iconwright"));
 
     iw::ui::MainWindow window;
-    const iw::StartupResult started = window.Start(CommandLine(QApplication::arguments()));
+    const iw::StartupResult started =
+        window.Start(iw::ui::EditorCommandLine(QApplication::arguments()));
     if (HasEnv("ICONWRIGHT_QUIT_AFTER_FIRST_PAINT")) {
         // The first frame the event loop paints shows what start-up made.
         QObject::connect(window.Canvas(), &iw::ui::CanvasWidget::Painted, &app,
