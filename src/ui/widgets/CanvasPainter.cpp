@@ -3,7 +3,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QVarLengthArray>
+#include <QVector>
 #include <algorithm>
 
 namespace iw::ui {
@@ -50,7 +52,7 @@ const QBrush& InvertedHatch(qreal ratio) {
         cached = {ratio, TileBrush(8, ratio, [](QPainter& p) {
                       p.fillRect(0, 0, 8, 8, kInvertedGround);
                       p.setRenderHint(QPainter::Antialiasing);
-                      p.setPen(QPen(kInvertedHatch, 1.2));
+                      p.setPen(QPen(kInvertedHatch, 2.0));
                       p.drawLine(QPointF(-1, 9), QPointF(9, -1));
                   })};
     }
@@ -73,31 +75,31 @@ CellSpan CellsUnder(const QRect& area, QSize picture, int size) {
     return {cells, QRect(x0 * size, y0 * size, cells.width() * size, cells.height() * size)};
 }
 
-// The inverting cells of `span` in a hatch: a layer over the cells that hold any is hatched,
-// cut down to the inverting cells by the mask, and laid over the canvas.
+// The inverting cells of `span` in a hatch: the runs of inverting cells of each visible row
+// make a clip region, and the hatch fills it.
 void PaintInverted(QPainter& painter, const QRect& area, const CellSpan& span,
                    const PixelPicture& picture, int size) {
     const QRect cells = span.cells.intersected(picture.invertedCells);
     if (cells.isEmpty()) return;
-    const QRect pixels = area.intersected(
-        QRect(cells.x() * size, cells.y() * size, cells.width() * size, cells.height() * size));
-    if (pixels.isEmpty()) return;
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    // The layer is kept from frame to frame: a viewport's worth of fresh memory each time
-    // would cost more than the drawing.
-    static thread_local QImage layer;
-    const QSize device = (QSizeF(pixels.size()) * ratio).toSize();
-    if (layer.size() != device) layer = QImage(device, QImage::Format_ARGB32_Premultiplied);
-    layer.setDevicePixelRatio(ratio);
-    {
-        QPainter p(&layer);
-        p.translate(-pixels.topLeft());
-        p.setCompositionMode(QPainter::CompositionMode_Source);
-        p.fillRect(pixels, InvertedHatch(ratio));
-        p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        p.drawImage(span.pixels, picture.inverted, span.cells);
+    QVector<QRect> runs;
+    for (int y = cells.top(); y <= cells.bottom(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.inverted.constScanLine(y));
+        for (int x = cells.left(); x <= cells.right(); ++x) {
+            if (line[x] == 0) continue;
+            const int start = x;
+            while (x + 1 <= cells.right() && line[x + 1] != 0)
+                ++x;
+            runs.append(QRect(start * size, y * size, (x - start + 1) * size, size));
+        }
     }
-    painter.drawImage(pixels.topLeft(), layer);
+    // The runs come row by row, left to right: the banded order a region is made of.
+    QRegion region;
+    region.setRects(runs.constData(), static_cast<int>(runs.size()));
+    painter.save();
+    painter.setClipRegion(region, Qt::IntersectClip);
+    painter.fillRect(area.intersected(region.boundingRect()),
+                     InvertedHatch(painter.device()->devicePixelRatioF()));
+    painter.restore();
 }
 
 void PaintGrid(QPainter& painter, const CellSpan& span, int size) {
