@@ -1,7 +1,7 @@
 // The canvas's per-frame and per-stroke work, which must stay far below one frame (16 ms):
 // - painting a 256 x 256 image at PixelSize 48 into a 1920 x 1080 viewport (the region a
 //   maximised window shows), with the grid, at device pixel ratio 1 and 2, and again with
-//   a quarter of the pixels inverting (their hatch is a layer of its own);
+//   a quarter of the pixels inverting (their hatch fills a clip region of its own);
 // - making the picture the canvas paints from (after every change of the image);
 // - a Pencil stroke of 100 points through the canvas widget: the mouse events a user's
 //   drag sends, each handed to the core, then the one repaint that follows.
