@@ -1,5 +1,6 @@
 // The tool bar, the option panels, the colour boxes and the zoom of the main window,
 // driven through their widgets.
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSlider>
@@ -113,6 +114,8 @@ TEST_F(WindowControls, WheelZoomKeepsTheCellUnderTheMouse) {
     QApplication::sendEvent(area->viewport(), &wheel);
     EXPECT_EQ(editor().View().State().PixelSize, 12);
     EXPECT_FALSE(editor().View().State().FitInWindow);
+    EXPECT_FALSE(Find<QAction>("mnuAuto")->isChecked());
+    EXPECT_EQ(Find<QLabel>("lblZoom")->text(), QStringLiteral("Zoom 12:1"));
     EXPECT_NEAR(cellUnder().x(), before.x(), 0.1);
     EXPECT_NEAR(cellUnder().y(), before.y(), 0.1);
     EXPECT_GT(area->horizontalScrollBar()->value(), 0);

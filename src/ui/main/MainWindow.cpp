@@ -70,6 +70,9 @@ MainWindow::MainWindow(MainWindowOptions options)
         fontMetrics().horizontalAdvance(QStringLiteral("R 255, G 255, B 255, A 255 (Fuchsia)")));
     statusBar()->addWidget(pixelText_);
     progress_ = std::make_unique<StatusProgress>(*statusBar());
+    zoomText_ = new QLabel(statusBar());
+    zoomText_->setObjectName(QStringLiteral("lblZoom"));
+    statusBar()->addPermanentWidget(zoomText_);
     log_ = new LogList(this);
     addDockWidget(Qt::BottomDockWidgetArea, log_);
     log_->hide();
@@ -330,6 +333,8 @@ void MainWindow::ToolChanged() {
 void MainWindow::ViewChanged() {
     canvas_->ViewChanged();
     actions_->RefreshView();
+    zoomText_->setText(QStr(ReplacePlaceholder(GetText(mt::ZoomText), "%d",
+                                               std::to_string(editor_->View().State().PixelSize))));
 }
 
 void MainWindow::UndoStateChanged() {

@@ -126,6 +126,7 @@ class MainWindow final : public QMainWindow, public IMainWindowView, public IEdi
     InspectorBox* inspector_ = nullptr;
     PaletteStrip* palette_ = nullptr;
     QLabel* pixelText_ = nullptr;
+    QLabel* zoomText_ = nullptr;
 };
 
 }  // namespace iw::ui
