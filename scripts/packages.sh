@@ -1,7 +1,10 @@
 # Sourced by the scripts: installs the Debian packages the project needs, quietly and only
 # when some are missing. Safe to run again and again.
 
-IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev libstb-dev qt6-base-dev"
+# Qt 6 Widgets and Svg for the editor's window (its tests run on Qt's offscreen platform),
+# with Qt's further platform plugins; stb for the resampler.
+IW_BUILD_PACKAGES="cmake ninja-build g++ pkg-config libpugixml-dev libstb-dev qt6-base-dev
+  qt6-svg-dev qt6-qpa-plugins"
 # binutils-mingw-w64-*: windres and ld build the Windows libraries whose icon and cursor
 # groups the tests read (tests/data/pe), as 64-bit (PE32+) and 32-bit (PE32) images.
 IW_TEST_PACKAGES="googletest libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev

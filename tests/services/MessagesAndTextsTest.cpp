@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <utility>
+#include <vector>
 
+#include "services/core/CompressionNotice.h"
 #include "services/core/DataFolder.h"
 #include "services/core/OverwriteQuestion.h"
 #include "services/core/TextCatalog.h"
@@ -94,6 +97,49 @@ TEST(MessageRoutine, SuppressedMessagesStayQuietUnlessForced) {
     f.service.Show(texts::CreateANI, MessageType::Information);
     f.service.Show(texts::SeqANI, MessageType::Information);
     EXPECT_EQ(f.presenter.shown.size(), 4u);
+}
+
+// Hints and offers carry the "do not show again" box; questions whose silent answer would
+// save, overwrite or delete never do, and a tick sent for them anyway is not stored.
+TEST(MessageRoutine, OnlyHintsAndOffersCanBeSuppressed) {
+    const std::vector<std::pair<TextId, bool>> cases = {
+        {texts::CreateCursor, true},   {texts::CreateANI, true},
+        {texts::Bad16Icons, true},     {texts::SeqANI, true},
+        {texts::ANIInfo, true},        {texts::CreateFolderIcon, true},
+        {texts::ICOFileType, true},    {texts::CURFileType, true},
+        {texts::ANIFileType, true},    {texts::UpdateText, true},
+        {texts::SaveFilename, false},  {texts::SaveUntitled, false},
+        {texts::OverwriteFile, false}, {texts::CorruptFile, false},
+        {texts::OpenEXE, false},       {texts::ChangeAttributes, false},
+    };
+    for (const auto& [id, suppressible] : cases) {
+        SCOPED_TRACE(std::string(id.key));
+        test::MessageFixture f;
+        f.presenter.suppressNext = true;
+        f.service.Show(id, MessageType::Question, MessageButtons::YesNoCancel);
+        ASSERT_EQ(f.presenter.shown.size(), 1u);
+        EXPECT_EQ(f.presenter.shown[0].suppressible, suppressible);
+        // Asked again: silent only when the box was allowed.
+        f.service.Show(id, MessageType::Question, MessageButtons::YesNoCancel);
+        EXPECT_EQ(f.presenter.shown.size(), suppressible ? 1u : 2u);
+    }
+}
+
+TEST(CompressionNotice, OnlyWithoutZlibAndWordedAsTheProgramHasIt) {
+    test::MessageFixture f;
+    EXPECT_FALSE(ReportMissingCompressionLibrary(f.service, true));
+    EXPECT_TRUE(f.presenter.shown.empty());
+    EXPECT_TRUE(ReportMissingCompressionLibrary(f.service, false));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    const MessageBoxRequest& r = f.presenter.shown[0];
+    EXPECT_EQ(r.type, MessageType::Critical);
+    EXPECT_EQ(r.title, "Quorvale Iconwright");
+    EXPECT_EQ(r.buttons, MessageButtons::Ok);
+    EXPECT_FALSE(r.suppressible);
+    EXPECT_EQ(r.text,
+              "A required file, zlib1.dll, is missing.  This file is needed in order to work with "
+              "compressed icons efficiently.  Iconwright will continue, however, compressed icons "
+              "created will not have as high a compression ratio.\n\nPlease reinstall Iconwright.");
 }
 
 class DataFolderTest : public ::testing::Test {
