@@ -40,19 +40,41 @@ MainActions::MainActions(Editor& editor, QMainWindow& window)
         m->setObjectName(QStr(text.key));
         return m;
     };
-    MakeFileMenu(menu(mt::File));
-    MakeEditMenu(edit_ = menu(mt::Edit));
-    MakeViewMenu(menu(mt::View));
+    MakeFileMenu(menus_[static_cast<int>(MenuId::File)] = menu(mt::File));
+    MakeEditMenu(menus_[static_cast<int>(MenuId::Edit)] = edit_ = menu(mt::Edit));
+    MakeViewMenu(menus_[static_cast<int>(MenuId::View)] = menu(mt::View));
     mode_ = bar->addMenu(QStr(editor.Document().ModeMenuCaption()));
     mode_->setObjectName(QStringLiteral("mnuMode"));
+    menus_[static_cast<int>(MenuId::Mode)] = mode_;
     MakeModeMenu(mode_);
-    MakeHelpMenu(menu(mt::Help));
+    MakeHelpMenu(menus_[static_cast<int>(MenuId::Help)] = menu(mt::Help));
     MakeToolBar();
     RefreshUndo();
     RefreshView();
     RefreshMode();
     RefreshRecent();
     RefreshWindowSettings();
+}
+
+QMenu* MainActions::MenuFor(MenuId id) {
+    QMenu*& slot = menus_[static_cast<std::size_t>(id)];
+    if (slot) return slot;
+    const TextId& text = id == MenuId::Image ? mt::Image : mt::Tools;
+    slot = new QMenu(Tr(text), &window_);
+    slot->setObjectName(QStr(text.key));
+    // In its place: before the first menu that follows it and exists already.
+    QAction* before = nullptr;
+    for (std::size_t next = static_cast<std::size_t>(id) + 1; next < menus_.size() && !before;
+         ++next) {
+        if (menus_[next]) before = menus_[next]->menuAction();
+    }
+    window_.menuBar()->insertMenu(before, slot);
+    return slot;
+}
+
+QAction* MainActions::AddCommand(MenuId id, const char* name, const TextId& text,
+                                 std::function<void()> command) {
+    return Add(MenuFor(id), name, text, std::move(command));
 }
 
 QAction* MainActions::Add(QMenu* menu, const char* name, const TextId& text,

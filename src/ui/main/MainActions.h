@@ -17,11 +17,22 @@ class QToolBar;
 
 namespace iw::ui {
 
+// The menus of the menu bar, in their order. Image and Tools appear only once a window
+// adds a command to them.
+enum class MenuId { File, Edit, View, Image, Mode, Tools, Help };
+
 class MainActions final : public QObject {
     Q_OBJECT
 
   public:
     MainActions(Editor& editor, QMainWindow& window);
+
+    // The menu `id`, made on first use in its place on the menu bar. Windows add their
+    // commands here (each from a file of its own), through AddCommand.
+    QMenu* MenuFor(MenuId id);
+    // A command of a menu: its object name, its text through the lookup, what it calls.
+    QAction* AddCommand(MenuId id, const char* name, const TextId& text,
+                        std::function<void()> command);
 
     // The Edit menu: Undo and Repeat now; the clipboard commands join them below.
     QMenu* EditMenu() const { return edit_; }
@@ -54,6 +65,7 @@ class MainActions final : public QObject {
 
     Editor& editor_;
     QMainWindow& window_;
+    std::array<QMenu*, 7> menus_{};  // by MenuId
     QMenu* edit_ = nullptr;
     QMenu* mode_ = nullptr;
     QToolBar* toolBar_ = nullptr;

@@ -31,6 +31,7 @@
 #include "ui/main/MainActions.h"
 #include "ui/main/MainTexts.h"
 #include "ui/main/ToolBox.h"
+#include "ui/main/WindowFeatures.h"
 #include "ui/widgets/CanvasArea.h"
 #include "ui/widgets/CanvasWidget.h"
 #include "ui/widgets/IconListView.h"
@@ -82,6 +83,7 @@ MainWindow::MainWindow(MainWindowOptions options)
     picture_ = std::make_unique<CurrentPicture>(*editor_);
     BuildLayout();
     ConnectActions();
+    InstallWindowFeatures(*this);
     editor_->AddObserver(*this);
 }
 
