@@ -1,0 +1,172 @@
+// The windows around the set's images driven as a user would: the icon list's menu with
+// frmAttributes (add, remove, move) and the mode menu.
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <functional>
+
+#include "WindowFixture.h"
+#include "imaging/ColorMapping.h"
+#include "ui/widgets/IconListView.h"
+
+namespace iw::test {
+namespace {
+
+QWidget* ShownWindow(const QString& name) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->objectName() == name) return widget;
+    }
+    return nullptr;
+}
+
+// Runs `act` on the window named `name` once it shows (a dialog or a menu that runs its own
+// event loop), from inside that loop. `done` counts the windows handled.
+void WhenShown(const char* name, std::function<void(QWidget*)> act, int* done = nullptr) {
+    auto* timer = new QTimer(qApp);
+    timer->setInterval(5);
+    QObject::connect(timer, &QTimer::timeout,
+                     [timer, name = QString::fromLatin1(name), act, done, tries = 0]() mutable {
+                         QWidget* shown = ShownWindow(name);
+                         if (!shown && ++tries < 2000) return;
+                         timer->stop();
+                         timer->deleteLater();
+                         ASSERT_NE(shown, nullptr) << name.toStdString();
+                         act(shown);
+                         if (done) ++*done;
+                     });
+    timer->start();
+}
+
+template <typename T = QWidget>
+T* Child(QWidget* window, const char* name) {
+    T* found = window->findChild<T*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+// Fills frmAttributes and presses OK.
+void FillAttributes(QWidget* dialog, const QString& width, const QString& height, int bits) {
+    for (auto [name, text] : {std::pair{"txtWidth", width}, std::pair{"txtHeight", height}}) {
+        auto* box = Child<QLineEdit>(dialog, name);
+        box->selectAll();
+        QTest::keyClicks(box, text);
+    }
+    for (QRadioButton* option : dialog->findChildren<QRadioButton*>(QStringLiteral("optDepth"))) {
+        if (option->property("tag").toInt() == bits) QTest::mouseClick(option, Qt::LeftButton);
+    }
+    QTest::mouseClick(Child<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
+}
+
+// Each image's width, height and depth, in order.
+std::string SizesOf(const IconSet& set) {
+    std::string sizes;
+    for (int i = 0; i < set.Count(); ++i) {
+        const IconInfo& info = set.Info(i);
+        sizes += std::to_string(info.Width()) + "x" + std::to_string(info.Height()) + "x" +
+                 std::to_string(info.bitCount) + " ";
+    }
+    return sizes;
+}
+
+struct ImageListWindows : WindowTest {
+    ui::IconListView* List() { return Find<ui::IconListView>("picIcons"); }
+
+    // A right click on row `row` of the icon list, then `act` on its menu.
+    void ListMenu(int row, std::function<void(QMenu*)> act) {
+        int done = 0;
+        WhenShown(
+            "mnuIconList", [&](QWidget* menu) { act(static_cast<QMenu*>(menu)); }, &done);
+        ui::IconListView* list = List();
+        const QPoint at = list->visualRect(list->model()->index(row, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list->viewport(), &event);
+        EXPECT_EQ(done, 1);
+    }
+    static void Choose(QMenu* menu, const char* action) {
+        QAction* item = menu->findChild<QAction*>(QString::fromLatin1(action));
+        ASSERT_NE(item, nullptr) << action;
+        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                          menu->actionGeometry(item).center());
+    }
+    std::string Sizes() { return SizesOf(editor().Set()); }
+};
+
+TEST_F(ImageListWindows, TheListMenuAddsMovesAndRemovesImages) {
+    Start();
+    ASSERT_EQ(Sizes(), "32x32x32 ");
+
+    // Add Format: a side out of range is refused by the core and the dialog stays open.
+    int added = 0;
+    WhenShown(
+        "frmAttributes",
+        [&](QWidget* dialog) {
+            FillAttributes(dialog, QStringLiteral("300"), QStringLiteral("16"), 8);
+            ASSERT_TRUE(dialog->isVisible());
+            ASSERT_FALSE(presenter.shown.empty());
+            EXPECT_EQ(presenter.shown.back().key, "Integer256");
+            FillAttributes(dialog, QStringLiteral("16"), QStringLiteral("16"), 8);
+        },
+        &added);
+    ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuAddFormat"); });
+    EXPECT_EQ(added, 1);
+    EXPECT_EQ(Sizes(), "32x32x32 16x16x8 ");  // in the standard order, and edited
+    EXPECT_EQ(List()->model()->rowCount(), 2);
+    EXPECT_EQ(editor().CurrentIcon(), 1);
+    EXPECT_TRUE(window->isWindowModified());
+
+    // The same format again asks first; No adds nothing.
+    presenter.answers = {MessageAnswer::No};
+    WhenShown("frmAttributes", [](QWidget* dialog) {
+        FillAttributes(dialog, QStringLiteral("16"), QStringLiteral("16"), 8);
+    });
+    ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuAddFormat"); });
+    EXPECT_EQ(presenter.shown.back().key, "AddDuplicateIcon");
+    EXPECT_EQ(List()->model()->rowCount(), 2);
+
+    // Move Up on the last row, then Move Down from the mode menu on the edited image.
+    ListMenu(1, [](QMenu* menu) {
+        EXPECT_FALSE(menu->findChild<QAction*>(QStringLiteral("mnuMoveDown"))->isEnabled());
+        Choose(menu, "mnuMoveUp");
+    });
+    EXPECT_EQ(Sizes(), "16x16x8 32x32x32 ");
+    EXPECT_EQ(editor().CurrentIcon(), 0);  // the edited image moved up with it
+    Trigger("mnuMoveDown");
+    EXPECT_EQ(Sizes(), "32x32x32 16x16x8 ");
+    EXPECT_EQ(editor().CurrentIcon(), 1);
+    EXPECT_EQ(List()->model()->index(1, 0).data().toString(), QStringLiteral("16 x 16\n8 bit"));
+
+    // Remove Icon on the other image, until one is left: it cannot be removed.
+    ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuRemoveIcon"); });
+    EXPECT_EQ(Sizes(), "16x16x8 ");
+    EXPECT_EQ(editor().CurrentIcon(), 0);
+    EXPECT_EQ(List()->model()->rowCount(), 1);
+    ListMenu(0, [](QMenu* menu) {
+        EXPECT_FALSE(menu->findChild<QAction*>(QStringLiteral("mnuRemoveIcon"))->isEnabled());
+        menu->close();
+    });
+    EXPECT_EQ(editor().Set().Count(), 1);
+}
+
+TEST_F(ImageListWindows, ChangingAttributesGoesThroughTheQuestionAndTheDepthRules) {
+    Start();
+    const PackedColor orange = PackColor(255, 128, 0);
+    editor().Tools().SetForeColor(orange);
+    QTest::keyClick(window.get(), Qt::Key_P);
+    Stroke({{2, 2}});
+    ASSERT_EQ(PixelAt({2, 2}), orange);
+    presenter.answers = {MessageAnswer::Yes};
+    WhenShown("frmAttributes", [](QWidget* dialog) {
+        FillAttributes(dialog, QStringLiteral("24"), QStringLiteral("20"), 1);
+    });
+    Trigger("mnuAttributes");
+    EXPECT_EQ(presenter.shown.back().key, "ChangeAttributes");
+    EXPECT_EQ(Sizes(), "24x20x1 ");
+    EXPECT_EQ(PixelAt({2, 2}), ConvertToMonoColor(orange));
+    EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());  // not undoable
+}
+
+}  // namespace
+}  // namespace iw::test
