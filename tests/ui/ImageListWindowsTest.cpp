@@ -1,5 +1,6 @@
 // The windows around the set's images driven as a user would: the icon list's menu with
-// frmAttributes (add, remove, move) and the mode menu.
+// frmAttributes (add, remove, move), the mode menu and the start-up dialog's new icon of any
+// size.
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -166,6 +167,24 @@ TEST_F(ImageListWindows, ChangingAttributesGoesThroughTheQuestionAndTheDepthRule
     EXPECT_EQ(Sizes(), "24x20x1 ");
     EXPECT_EQ(PixelAt({2, 2}), ConvertToMonoColor(orange));
     EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());  // not undoable
+}
+
+TEST_F(ImageListWindows, TheStartupTileMakesAnIconOfAnySizeAndDepth) {
+    Start();
+    int done = 0;
+    WhenShown(
+        "frmStartup",
+        [](QWidget* startup) {
+            WhenShown("frmAttributes", [](QWidget* dialog) {
+                FillAttributes(dialog, QStringLiteral("40"), QStringLiteral("24"), 4);
+            });
+            QTest::mouseClick(Child<QWidget>(startup, "cmdNewSize"), Qt::LeftButton);
+        },
+        &done);
+    window->ShowStartupDialog();
+    EXPECT_EQ(done, 1);
+    EXPECT_EQ(Sizes(), "40x24x4 ");
+    EXPECT_EQ(ShownWindow(QStringLiteral("frmStartup")), nullptr);
 }
 
 }  // namespace
