@@ -1,7 +1,8 @@
 // The windows around the set's images driven as a user would: the icon list's menu with
-// frmAttributes (add, remove, move), the mode menu and the start-up dialog's new icon of any
-// size.
+// frmAttributes (add, remove, move), the mode menu, the start-up dialog's new icon of any
+// size, and the edit-request banner.
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 
 #include "WindowFixture.h"
 #include "imaging/ColorMapping.h"
+#include "services/core/XmlStore.h"
 #include "ui/widgets/IconListView.h"
 
 namespace iw::test {
@@ -185,6 +187,24 @@ TEST_F(ImageListWindows, TheStartupTileMakesAnIconOfAnySizeAndDepth) {
     EXPECT_EQ(done, 1);
     EXPECT_EQ(Sizes(), "40x24x4 ");
     EXPECT_EQ(ShownWindow(QStringLiteral("frmStartup")), nullptr);
+}
+
+TEST_F(ImageListWindows, TheEditRequestBannerLastsAsLongAsTheRequest) {
+    XmlStore request;
+    request.SetFilePath(temp / "request.xml");
+    request.SetValue("Request\\Program", "Paint <b>&</b> Co");
+    request.SetValue("Request\\File", (temp / "app.ico").string());
+    ASSERT_TRUE(request.Save());
+    Start((temp / "request.xml").string());
+    auto* banner = Find<QLabel>("lblEditRequest");
+    auto* hint = Find<QLabel>("lblEditRequestHint");
+    EXPECT_TRUE(banner->isVisible() && hint->isVisible());
+    EXPECT_EQ(banner->text(), QStringLiteral("You are editing an icon for Paint <b>&</b> Co"));
+    EXPECT_EQ(banner->textFormat(), Qt::PlainText);
+    Trigger("mnuSave");
+    EXPECT_TRUE(std::filesystem::exists(temp / "app.ico"));
+    Trigger("mnuNew");
+    EXPECT_FALSE(banner->isVisible() || hint->isVisible());
 }
 
 }  // namespace
