@@ -1,16 +1,19 @@
 // The windows around the set's images driven as a user would: the icon list's menu with
 // frmAttributes (add, remove, move), the mode menu, the start-up dialog's new icon of any
-// size, and the edit-request banner.
+// size, the edit-request banner, and frmGroups on a real library.
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
+#include <QTreeWidget>
 #include <functional>
 
 #include "WindowFixture.h"
+#include "document/io/ProgramIcons.h"
 #include "imaging/ColorMapping.h"
 #include "services/core/XmlStore.h"
 #include "ui/widgets/IconListView.h"
@@ -205,6 +208,102 @@ TEST_F(ImageListWindows, TheEditRequestBannerLastsAsLongAsTheRequest) {
     EXPECT_TRUE(std::filesystem::exists(temp / "app.ico"));
     Trigger("mnuNew");
     EXPECT_FALSE(banner->isVisible() || hint->isVisible());
+}
+
+struct ProgramGroups : ImageListWindows {
+    ProgramGroups() {
+        std::filesystem::copy_file(std::filesystem::path(IW_PE_PROGRAMS_DIR) / "programs64.dll",
+                                   library);
+        files.openPath = library.string();
+        presenter.answers = {MessageAnswer::Yes};  // "OpenEXE"
+        program = ProgramFile::Open(library.string());
+    }
+    // The further windows go first; each takes its own menus (top-level widgets) with it.
+    ~ProgramGroups() override {
+        std::vector<QPointer<ui::MainWindow>> others;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* other = qobject_cast<ui::MainWindow*>(widget);
+            if (other && other != window.get()) others.emplace_back(other);
+        }
+        for (const QPointer<ui::MainWindow>& other : others)
+            delete other.data();
+    }
+    // Opens the library and answers frmGroups with `act`.
+    void OpenWith(std::function<void(QWidget*)> act) {
+        int done = 0;
+        WhenShown("frmGroups", std::move(act), &done);
+        Trigger("mnuOpen");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return done == 1; }));
+    }
+    // The images of a group in a language as the reader gives them.
+    std::string GroupSizes(int group, std::optional<std::uint16_t> language = std::nullopt) {
+        IconSet set;
+        CoreContext context{editor().Settings().Messages(), progress, log};
+        EXPECT_TRUE(program->ReadGroup(group, language, set, context));
+        return SizesOf(set);
+    }
+    std::size_t Asked(const std::string& key) const {
+        return static_cast<std::size_t>(
+            std::count_if(presenter.shown.begin(), presenter.shown.end(),
+                          [&](const MessageBoxRequest& request) { return request.key == key; }));
+    }
+
+    std::filesystem::path library = temp / "lib.dll";
+    std::optional<ProgramFile> program;
+    NullProgress progress;
+    NullLog log;
+};
+
+// Group 1 of the library comes in two languages, each with images of its own: the row of
+// the second language opens that one.
+TEST_F(ProgramGroups, TheChosenGroupAndLanguageReplaceTheFirst) {
+    Start();
+    ASSERT_TRUE(program);
+    const std::vector<std::uint16_t>& languages = program->Groups()[1].languages;
+    ASSERT_EQ(languages.size(), 2u);
+    ASSERT_NE(GroupSizes(1, languages[0]), GroupSizes(1, languages[1]));
+    std::size_t rows = 0;
+    for (const ResourceGroup& group : program->Groups())
+        rows += group.languages.size();
+    OpenWith([&](QWidget* dialog) {
+        auto* groups = Child<QTreeWidget>(dialog, "lstGroups");
+        ASSERT_EQ(groups->topLevelItemCount(), static_cast<int>(rows));
+        EXPECT_EQ(groups->currentItem(), groups->topLevelItem(0));  // the group shown
+        EXPECT_FALSE(groups->topLevelItem(0)->icon(0).isNull());    // its picture
+        QTreeWidgetItem* second = groups->topLevelItem(2);
+        EXPECT_EQ(second->text(1), QString::number(languages[1]));
+        groups->setCurrentItem(second);
+        QTest::mouseClick(Child<QPushButton>(dialog, "cmdOpen"), Qt::LeftButton);
+    });
+    EXPECT_EQ(Sizes(), GroupSizes(1, languages[1]));
+    EXPECT_EQ(editor().Document().ProgramPath(), library.string());
+    EXPECT_EQ(Asked("OpenEXE"), 1u);
+    EXPECT_EQ(List()->model()->rowCount(), editor().Set().Count());
+}
+
+TEST_F(ProgramGroups, OpenAllGivesEveryFurtherGroupAWindowOfItsOwn) {
+    Start();
+    ASSERT_TRUE(program);
+    OpenWith([](QWidget* dialog) {
+        QTest::mouseClick(Child<QPushButton>(dialog, "cmdOpenAll"), Qt::LeftButton);
+    });
+    EXPECT_EQ(Sizes(), GroupSizes(0));
+    std::vector<std::string> others;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* other = qobject_cast<ui::MainWindow*>(widget);
+        if (other && other != window.get()) others.push_back(SizesOf(other->GetEditor().Set()));
+    }
+    std::vector<std::string> expected;  // every group in every language but the first
+    for (int group = 0; group < static_cast<int>(program->Groups().size()); ++group) {
+        for (const std::uint16_t language : program->Groups()[group].languages) {
+            if (group > 0 || language != program->Groups()[0].language)
+                expected.push_back(GroupSizes(group, language));
+        }
+    }
+    std::sort(others.begin(), others.end());
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(others, expected);
+    EXPECT_EQ(Asked("OpenEXE"), 1u);  // asked once, in the first window
 }
 
 }  // namespace

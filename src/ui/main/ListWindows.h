@@ -1,5 +1,6 @@
 #pragma once
-// The windows around the set's images: the image commands with frmAttributes.
+// The windows around the set's images: the image commands with frmAttributes and the
+// group picker frmGroups for programs and libraries.
 
 namespace iw::ui {
 

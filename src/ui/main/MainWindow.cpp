@@ -94,6 +94,14 @@ MainWindow::~MainWindow() {
     delete takeCentralWidget();
 }
 
+MainWindowOptions MainWindow::OptionsForAnotherWindow() const {
+    MainWindowOptions options = options_;
+    if (ownPresenter_) options.presenter = nullptr;
+    if (ownFiles_) options.files = nullptr;
+    options.splash = false;
+    return options;
+}
+
 void MainWindow::BuildLayout() {
     Editor& editor = *editor_;
     actions_ = new MainActions(editor, *this);
