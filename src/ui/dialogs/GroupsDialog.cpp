@@ -11,8 +11,7 @@
 #include <algorithm>
 #include <set>
 
-#include "services/core/MessageService.h"
-#include "services/core/XmlStore.h"
+#include "services/core/QuietContext.h"
 #include "ui/UiText.h"
 #include "ui/widgets/IconListView.h"
 
@@ -26,15 +25,6 @@ constexpr int kColumnGap = 16;
 QString Text(std::string_view key, std::string_view text) {
     return Caption(kWindow, key, text);
 }
-
-// The pictures are read without telling the user anything: a group that cannot be read
-// shows no picture here and says why when it is opened.
-class QuietPresenter final : public IMessagePresenter {
-  public:
-    MessageBoxResult Present(const MessageBoxRequest&) override {
-        return {MessageAnswer::Ok, false};
-    }
-};
 
 // The image that stands for a group: the largest that fits the picture, else the smallest;
 // the deepest of that size.
@@ -80,12 +70,9 @@ GroupsDialog::GroupsDialog(const ProgramFile& program, const GroupChoice& curren
                               Text("colImages", "Images"), Text("colSizes", "Sizes"),
                               Text("colDepths", "Bits per pixel")});
 
-    XmlStore quietStore;
-    QuietPresenter quiet;
-    MessageService messages(quietStore, quiet);
-    NullProgress progress;
-    NullLog log;
-    CoreContext context{messages, progress, log};
+    // The pictures are read without telling the user anything: a group that cannot be read
+    // shows no picture here and says why when it is opened.
+    QuietContext quiet;
     const std::vector<ResourceGroup>& all = program.Groups();
     for (int index = 0; index < static_cast<int>(all.size()); ++index) {
         std::vector<std::uint16_t> languages = all[static_cast<std::size_t>(index)].languages;
@@ -106,7 +93,7 @@ GroupsDialog::GroupsDialog(const ProgramFile& program, const GroupChoice& curren
                 {kind + QLatin1Char(' ') + QStr(group.name.Display()), QString::number(language),
                  QString::number(group.images.size()), JoinNumbers(sides), JoinNumbers(depths)});
             IconSet scratch;
-            if (program.ReadGroup(index, language, scratch, context)) {
+            if (program.ReadGroup(index, language, scratch, quiet.Context())) {
                 if (const IconImage* image = StandIn(scratch))
                     item->setIcon(0,
                                   QIcon(QPixmap::fromImage(IconThumbnail(*image, kPictureSide))));
