@@ -65,4 +65,14 @@ inline void PaintExact(IconImage& image) {
     }
 }
 
+// Both planes equal over the image's own extent, read without changing either image.
+inline bool SamePixels(const IconImage& a, const IconImage& b) {
+    for (int y = 0; y < a.info.Height(); ++y) {
+        for (int x = 0; x < a.info.Width(); ++x) {
+            if (a.Color(x, y) != b.Color(x, y) || a.Alpha(x, y) != b.Alpha(x, y)) return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace iw::test
