@@ -8,7 +8,8 @@ namespace iw {
 namespace {
 
 IconImage Filled(int width, int height, int bits, PackedColor color, int alpha) {
-    return test::MakeImage(width, height, bits, [color](int, int) { return color; }, alpha);
+    return test::MakeImage(
+        width, height, bits, [color](int, int) { return color; }, alpha);
 }
 
 constexpr PackedColor kRed = PackColor(255, 0, 0);

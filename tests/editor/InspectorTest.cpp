@@ -21,7 +21,8 @@ TemplateEntry Entry(int side, int bits) {
 // Adds a transparent image; drawn images get one opaque pixel.
 int Add(IconSet& set, int side, int bits, bool drawn = true) {
     const int index = set.InsertIcon(
-        set.Count(), test::MakeImage(side, side, bits, [](int, int) { return TransparentColor; }, 0));
+        set.Count(), test::MakeImage(
+                         side, side, bits, [](int, int) { return TransparentColor; }, 0));
     if (drawn) {
         set.Image(index).Color(0, 0) = PackColor(10, 20, 30);
         set.Image(index).Alpha(0, 0) = 255;

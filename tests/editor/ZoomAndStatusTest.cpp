@@ -18,7 +18,8 @@ TEST(CapPixelSize, CapsLargeImagesTestingTheSideLessOneOnPurpose) {
         {48, 32, 32, 24}, {4, 256, 256, 3}, {3, 256, 256, 3}, {48, 16, 16, 48},
         {24, 33, 33, 24}, {24, 34, 34, 22}, {48, 16, 64, 12}, {48, 64, 16, 12}};
     for (const auto& [size, width, height, capped] : cases)
-        EXPECT_EQ(CapPixelSize(size, width, height), capped) << size << " " << width << "x" << height;
+        EXPECT_EQ(CapPixelSize(size, width, height), capped)
+            << size << " " << width << "x" << height;
 }
 
 TEST(ViewController, FitInWindowTakesTheSmallerQuotientAndStepsTurnItOff) {
@@ -69,7 +70,8 @@ TEST(PixelStatus, NamesMarkersChannelsAndLowDepthColours) {
         {4, PackColor(192, 192, 192), 0, "R 192, G 192, B 192 (Silver)"},
         {1, PackColor(10, 10, 10), 0, "R 10, G 10, B 10 (Black)"}};
     for (const auto& [bits, color, alpha, text] : cases) {
-        const IconImage image = test::MakeImage(1, 1, bits, [c = color](int, int) { return c; }, alpha);
+        const IconImage image = test::MakeImage(
+            1, 1, bits, [c = color](int, int) { return c; }, alpha);
         EXPECT_EQ(PixelStatusText(image, 0, 0), text);
         EXPECT_EQ(PixelStatusText(image, 1, 0), "");  // beside the image
     }
