@@ -12,12 +12,15 @@
 
 #include <cstring>
 
+#include "BenchIcons.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "support/TestSupport.h"
 
 namespace {
 
+using iw::bench::NineSizeSet;
+using iw::bench::Paint;
 using Bytes = std::vector<std::uint8_t>;
 
 struct Context {
@@ -26,31 +29,6 @@ struct Context {
     iw::NullLog log;
     iw::CoreContext core{messages.service, progress, log};
 };
-
-void Paint(iw::IconImage& image, int seed) {
-    const int w = image.info.Width(), h = image.info.Height();
-    for (int y = 0; y < h; ++y) {
-        for (int x = 0; x < w; ++x) {
-            const int dx = 2 * x - w, dy = 2 * y - h;
-            const bool inside = dx * dx + dy * dy < w * h;
-            iw::PackedColor c = iw::PackColor((x * 255) / w, (y * 255) / h, (seed * 40) & 0xFF);
-            if (image.info.bitCount == 4) c = iw::PackColor(x * 8 / w * 128 % 256, 0, 128);
-            if (image.info.bitCount != 32 && !inside) c = iw::TransparentColor;
-            image.Color(x, y) = c;
-            image.Alpha(x, y) = inside ? 255 : (dx * dx + dy * dy < w * h * 5 / 4 ? 128 : 0);
-        }
-    }
-}
-
-iw::IconSet NineSizeSet() {
-    iw::IconSet set;
-    for (int side : {256, 128, 96, 64, 48, 40, 32, 24, 16}) {
-        const int i = set.AddIcon(side - 1, side - 1, 32);
-        set.Info(i).png = side == 256 ? 1 : 0;
-        Paint(set.Image(i), i);
-    }
-    return set;
-}
 
 iw::IconSet ManySet(bool png) {
     iw::IconSet set;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "document/io/ProgramIcons.h"
 #include "editor/BlankIcons.h"
 #include "editor/EditorTexts.h"
 #include "editor/IconFormats.h"
@@ -41,8 +42,17 @@ void DocumentSession::MarkSaved() {
 }
 
 std::string DocumentSession::DocumentName() const {
-    if (fileName_.empty()) return GetText(texts::Untitled);
-    return std::filesystem::path(fileName_).filename().string();
+    if (!fileName_.empty()) return std::filesystem::path(fileName_).filename().string();
+    if (!programPath_.empty()) return std::filesystem::path(programPath_).filename().string();
+    return GetText(texts::Untitled);
+}
+
+std::string DocumentSession::SuggestedSaveName() const {
+    if (!fileName_.empty() || programPath_.empty()) return DocumentName();
+    const char* extension = set_.mode == FileMode::CUR   ? ".cur"
+                            : set_.mode == FileMode::ANI ? ".ani"
+                                                         : ".ico";
+    return std::filesystem::path(programPath_).stem().string() + extension;
 }
 
 std::string DocumentSession::Caption() const {
@@ -92,6 +102,7 @@ void DocumentSession::StartFreshSet(FileMode mode, const TemplateEntry& format) 
     set_.InsertIcon(0, BlankImage(format));
     set_.mode = mode;
     fileName_.clear();
+    programPath_.clear();
 }
 
 void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
@@ -105,6 +116,7 @@ void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
 void DocumentSession::Discard() {
     set_.Clear();
     fileName_.clear();
+    programPath_.clear();
 }
 
 void DocumentSession::StartUntitled() {
@@ -156,22 +168,43 @@ bool DocumentSession::NewFromTemplate(const IconTemplate& source) {
 // ---- Open -------------------------------------------------------------------------------
 
 bool DocumentSession::OpenDocument(const std::string& path) {
+    return OpenFile(path, std::nullopt);
+}
+
+bool DocumentSession::OpenProgramGroup(const std::string& path, const GroupChoice& choice) {
+    return OpenFile(path, choice);
+}
+
+bool DocumentSession::ConfirmProgram(const std::string& path) {
+    if (!IsProgramFile(path)) return true;
+    return settings_.Messages().Show(texts::OpenEXE, MessageType::Question,
+                                     MessageButtons::YesNo) == MessageAnswer::Yes;
+}
+
+bool DocumentSession::OpenFile(const std::string& path, const std::optional<GroupChoice>& choice) {
     if (!DocumentExists(path)) {
         settings_.Messages().Show(texts::DoesNotExist, MessageType::Exclamation);
         return false;
     }
-    if (!Ask()) return false;
+    // Picking another group of the program the set came from does not ask again.
+    const bool pickingGroup = choice && !programPath_.empty() && SamePath(programPath_, path);
+    if ((!pickingGroup && !ConfirmProgram(path)) || !Ask()) return false;
+    const bool program = IsProgramFile(path);
     set_.Clear();
     set_.properties = {};
     set_.animation = {};
     CoreContext context = Context();
     // The reader sets the file's mode.
-    if (!services_.documents.Read(path, set_, context) || set_.Empty()) {
+    const bool read = choice ? services_.documents.ReadProgramGroup(path, *choice, set_, context)
+                             : services_.documents.Read(path, set_, context);
+    if (!read || set_.Empty()) {
         // The reader has told the user why; a new untitled set takes the failed one's place.
         StartUntitled();
         return false;
     }
-    fileName_ = path;
+    // A program is never written into: the set is saved as an icon file elsewhere.
+    fileName_ = program ? std::string() : path;
+    programPath_ = program ? path : std::string();
     settings_.AddRecentFile(path);
     Replaced();
     return true;
@@ -236,6 +269,7 @@ bool DocumentSession::WriteTo(const std::string& path) {
     const DocumentWrite how{set_.mode, host_.CurrentIcon()};
     if (!services_.documents.Write(path, set_, how, context)) return false;
     fileName_ = path;
+    programPath_.clear();
     MarkSaved();
     if (request_ && SamePath(path, request_->Target())) {
         request_->NoteSaved();
@@ -250,7 +284,7 @@ bool DocumentSession::WriteTo(const std::string& path) {
 bool DocumentSession::Save() {
     if (HasFileName()) return WriteTo(fileName_);
     const std::optional<std::string> path =
-        services_.view.ChooseSavePath(set_.mode, DocumentName());
+        services_.view.ChooseSavePath(set_.mode, SuggestedSaveName());
     if (!path || path->empty()) return false;
     return SaveAs(*path);
 }

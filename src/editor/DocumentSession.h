@@ -56,6 +56,16 @@ class DocumentSession {
     // A file that does not exist shows "This file could not be found." and changes nothing.
     // A file that cannot be read leaves a new untitled set.
     bool OpenDocument(const std::string& path);
+    // A Windows program or library first asks "You are opening a file other than an icon
+    // file.  Although Iconwright can read these files, it will be saved as an icon file.
+    // Continue?" (Yes/No; No opens nothing), then opens as any file: its first icon group
+    // (or, without groups, what the salvage reader finds). The set then has no file name of
+    // its own (ProgramPath() names the program, for the caption): Save asks for a path.
+    //
+    // The group picker: after opening a program, ListProgramGroups / ProgramFile list its
+    // groups; OpenProgramGroup opens the one chosen (in the language chosen), asking the
+    // question only when the set does not already come from that program.
+    bool OpenProgramGroup(const std::string& path, const GroupChoice& choice);
     // The recent-files menu items 1 to 4.
     bool OpenRecent(int number);
     // Another program asks for an icon to be edited (docs/edit-requests.md): the request
@@ -83,8 +93,11 @@ class DocumentSession {
 
     bool HasFileName() const { return !fileName_.empty(); }
     const std::string& FileName() const { return fileName_; }
-    std::string DocumentName() const;  // the file's name, or "untitled"
-    std::string Caption() const;       // document name + " - Quorvale Iconwright"
+    // The program or library the set was read from while it has no file name of its own.
+    const std::string& ProgramPath() const { return programPath_; }
+    // The file's name, the program's name, or "untitled".
+    std::string DocumentName() const;
+    std::string Caption() const;  // document name + " - Quorvale Iconwright"
     FileMode Mode() const { return set_.mode; }
     std::string ModeMenuCaption() const;  // "&Icon" or "&Cursor"
     // True after new, open and save, and again after undoing back to the saved state.
@@ -108,6 +121,12 @@ class DocumentSession {
     void Replaced(const std::vector<TemplateEntry>* formats = nullptr);
     // Takes the request's icon file as the document.
     bool TakeRequestedFile(const std::string& target);
+    // Asks, opens and takes the file (`choice` set: a program's group).
+    bool OpenFile(const std::string& path, const std::optional<GroupChoice>& choice);
+    // The "OpenEXE" question for a program file; true to go on (at once for other files).
+    bool ConfirmProgram(const std::string& path);
+    // The name Save As offers: the file's, or the program's with the mode's extension.
+    std::string SuggestedSaveName() const;
     bool WriteTo(const std::string& path);
     void SwitchMode(FileMode mode);
     void MarkSaved();
@@ -121,6 +140,7 @@ class DocumentSession {
     EditorEvents& events_;
 
     std::string fileName_;
+    std::string programPath_;
     std::optional<EditRequestFile> request_;
     MessageAnswer lastAnswer_ = MessageAnswer::No;
     bool savedStateKnown_ = true;

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "document/io/IconFileReader.h"
 #include "document/model/IconSet.h"
 #include "services/core/CoreContext.h"
 
@@ -21,6 +22,9 @@ class IDocumentStore {
     // Fills the empty `set` from the file at `path` and sets its mode from the file's name.
     // Tells the user about a failure itself; on failure the set is left empty.
     virtual bool Read(const std::string& path, IconSet& set, CoreContext& context) = 0;
+    // The same for the group `choice` of a Windows program or library.
+    virtual bool ReadProgramGroup(const std::string& path, const GroupChoice& choice, IconSet& set,
+                                  CoreContext& context) = 0;
     // Writes the set to `path` as an icon, cursor or animated cursor file. Tells the user
     // about a failure itself; a failed write leaves any old file as it was.
     virtual bool Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
@@ -34,6 +38,8 @@ bool DocumentExists(const std::string& path);
 class FileDocumentStore final : public IDocumentStore {
   public:
     bool Read(const std::string& path, IconSet& set, CoreContext& context) override;
+    bool ReadProgramGroup(const std::string& path, const GroupChoice& choice, IconSet& set,
+                          CoreContext& context) override;
     bool Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
                CoreContext& context) override;
 };

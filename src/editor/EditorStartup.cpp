@@ -2,6 +2,7 @@
 #include "editor/CommandLine.h"
 #include "editor/Editor.h"
 #include "editor/EditorTexts.h"
+#include "editor/ToolSettings.h"
 #include "services/core/TextCatalog.h"
 
 namespace iw {
@@ -13,6 +14,7 @@ StartupResult Editor::RunStartup(std::string_view commandLine, const StartupFold
 
     // 2. and 3. The two stores, the settings, the font choice; the templates.
     view_.Restore(settings_.Load(folders));
+    RestoreToolState(settings_.Store(), tools_);
     const WindowSettings& window = settings_.Window();
     services_.view.ApplyUseFont(window.useFont);
     settings_.LoadTemplates();
@@ -69,6 +71,7 @@ bool Editor::QueryClose() {
 
 void Editor::Shutdown() {
     session_.EndEditRequest();
+    SaveToolState(settings_.Store(), tools_.State());
     settings_.Save(view_.State());
 }
 

@@ -16,6 +16,11 @@ bool FileDocumentStore::Read(const std::string& path, IconSet& set, CoreContext&
     return ReadIconFile(path, set, context);
 }
 
+bool FileDocumentStore::ReadProgramGroup(const std::string& path, const GroupChoice& choice,
+                                         IconSet& set, CoreContext& context) {
+    return ReadIconFile(path, choice, set, context);
+}
+
 bool FileDocumentStore::Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
                               CoreContext& context) {
     switch (how.mode) {

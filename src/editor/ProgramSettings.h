@@ -64,6 +64,7 @@ class ProgramSettings {
 
     const WindowSettings& Window() const { return window_; }
     const XmlStore& Store() const { return settings_; }
+    XmlStore& Store() { return settings_; }
     const TemplateLibrary& Templates() const { return templates_; }
     const std::filesystem::path& UserTemplatesFolder() const { return userTemplates_; }
     const std::string& Language() const { return language_; }

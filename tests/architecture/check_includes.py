@@ -83,6 +83,11 @@ def check(table_path, src):
                         continue
                     if os.path.exists(os.path.join(folder, header)):
                         continue  # beside the file: its own module
+                    if header.split("/", 1)[0] in TOP_FOLDERS:
+                        if not top:
+                            problems.append(f"{where}: the core includes {header} of src/"
+                                            f"{header.split('/', 1)[0]}")
+                        continue
                     target = owner_of(header, modules)
                     if target is None and top and header.split("/", 1)[0] in TOP_FOLDERS \
                             and os.path.exists(os.path.join(src, header)):
@@ -115,8 +120,10 @@ def self_test():
         "high/High.cpp": '#include "mid/Mid.h"\n#include "high/High.h"\n',
         "high/High.h": "",
         "app/Main.cpp": '#include <QApplication>\n#include "low/Low.h"\n#include "high/High.h"\n'
-                        '#include "app/shared/Lent.h"\n',
+                        '#include "app/shared/Lent.h"\n'
+                        '#include "ui/Window.h"\n',
         "app/shared/Lent.h": "",
+        "ui/Window.h": '#include <QWidget>\n#include "mid/Mid.h"\n',
     }
     faults = {
         "includes a module it does not depend on": {"high/Skip.cpp": '#include "low/Low.h"\n'},
@@ -126,6 +133,7 @@ def self_test():
         "includes a header of no module": {"mid/Odd.cpp": '#include "nowhere/Odd.h"\n'},
         "includes the program's shell in the core": {"mid/Up.cpp": '#include "app/shared/Lent.h"\n'},
         "lies outside every module": {"stray/Stray.cpp": ""},
+        "includes the Qt layer in the core": {"high/Shows.cpp": '#include "ui/Window.h"\n'},
     }
     table_faults = {
         "a dependency on the same level": "low low 0\nmid mid 1 low\nhigh high 1 mid\n",

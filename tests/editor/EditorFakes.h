@@ -30,6 +30,11 @@ class FakeDocumentStore : public IDocumentStore {
         set.mode = FileModeFromPath(path);
         return true;
     }
+    // The fake keeps one set a file, whatever group is asked for.
+    bool ReadProgramGroup(const std::string& path, const GroupChoice&, IconSet& set,
+                          CoreContext& context) override {
+        return Read(path, set, context);
+    }
     bool Write(const std::string& path, const IconSet& set, const DocumentWrite& how,
                CoreContext&) override {
         writes.push_back(path);

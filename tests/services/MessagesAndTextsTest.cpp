@@ -1,9 +1,13 @@
 // Placeholders, the message routine with its suppression rules, the overwrite question and
 // the per-user data folder.
 #include <gtest/gtest.h>
+#include <string>
 
 #include <cstdlib>
+#include <utility>
+#include <vector>
 
+#include "services/core/CompressionNotice.h"
 #include "services/core/DataFolder.h"
 #include "services/core/OverwriteQuestion.h"
 #include "services/core/TextCatalog.h"
@@ -70,6 +74,43 @@ TEST(OverwriteQuestion, AsksOnlyForAnExistingFileAndOnlyYesReplaces) {
               (std::vector<std::string>{"OverwriteConfirmation", "OverwriteConfirmation"}));
     EXPECT_EQ(f.presenter.shown[0].buttons, MessageButtons::YesNo);
 }
+
+// Hints and offers carry the "do not show again" box; questions whose silent answer would
+// save, overwrite or delete never do, and a tick sent for them anyway is not stored.
+TEST(MessageRoutine, OnlyHintsAndOffersCanBeSuppressed) {
+    const std::vector<std::pair<TextId, bool>> cases = {
+        {texts::CreateCursor, true},   {texts::CreateANI, true},
+        {texts::Bad16Icons, true},     {texts::SeqANI, true},
+        {texts::ANIInfo, true},        {texts::CreateFolderIcon, true},
+        {texts::ICOFileType, true},    {texts::CURFileType, true},
+        {texts::ANIFileType, true},    {texts::UpdateText, true},
+        {texts::SaveFilename, false},  {texts::SaveUntitled, false},
+        {texts::OverwriteFile, false}, {texts::CorruptFile, false},
+        {texts::OpenEXE, false},       {texts::ChangeAttributes, false},
+    };
+    for (const auto& [id, suppressible] : cases) {
+        SCOPED_TRACE(std::string(id.key));
+        test::MessageFixture f;
+        f.presenter.suppressNext = true;
+        f.service.Show(id, MessageType::Question, MessageButtons::YesNoCancel);
+        ASSERT_EQ(f.presenter.shown.size(), 1u);
+        EXPECT_EQ(f.presenter.shown[0].suppressible, suppressible);
+        // Asked again: silent only when the box was allowed.
+        f.service.Show(id, MessageType::Question, MessageButtons::YesNoCancel);
+        EXPECT_EQ(f.presenter.shown.size(), suppressible ? 1u : 2u);
+    }
+}
+
+TEST(CompressionNotice, ShownOnlyWithoutZlib) {
+    test::MessageFixture f;
+    EXPECT_FALSE(ReportMissingCompressionLibrary(f.service, true));
+    EXPECT_TRUE(f.presenter.shown.empty());
+    EXPECT_TRUE(ReportMissingCompressionLibrary(f.service, false));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].type, MessageType::Critical);
+    EXPECT_FALSE(f.presenter.shown[0].suppressible);
+}
+
 
 TEST(DataFolder, FollowsXdgDataHomeThenHomeAndIsMadeOnDemand) {
     const char* home = std::getenv("HOME");

@@ -140,6 +140,15 @@ bool ParseOutputOption(const Args& args, std::size_t& i, OutputOptions& options,
         options.artist = value;
     } else if (option == "--template") {
         options.templateName = value;
+    } else if (option == "--group") {
+        options.group = value;
+    } else if (option == "--language") {
+        int language = 0;
+        if (!ParseInt(value, 0, 65535, language)) {
+            error = "--language takes a language number from 0 to 65535";
+            return false;
+        }
+        options.language = language;
     } else if (option == "--sequence") {
         std::vector<int> frames;
         std::size_t at = 0;

@@ -44,6 +44,8 @@ struct OutputOptions {
     std::optional<std::string> artist;           // .ani
     std::optional<std::vector<int>> sequence;    // .ani
     std::optional<std::string> templateName;     // convert: the template's formats
+    std::optional<std::string> group;            // convert: a program's group by name
+    std::optional<int> language;                 // convert: the group's language
 };
 
 // Takes the option at args[i] (and its value); returns false with `error` set when the

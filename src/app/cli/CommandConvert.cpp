@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "CliInput.h"
+#include "CliPrograms.h"
 #include "Commands.h"
 #include "document/io/ImageConversion.h"
 #include "services/desktop/ProgramFolders.h"
@@ -13,7 +14,8 @@ namespace {
 
 constexpr std::string_view kUsage =
     "iconwright-cli convert IN OUT [--template NAME] [--index N] [--hotspot X,Y]\n"
-    "                       [--rate JIFFIES] [--name TEXT] [--artist TEXT] [--sequence 0,1,2,...]";
+    "                       [--rate JIFFIES] [--name TEXT] [--artist TEXT] [--sequence 0,1,2,...]\n"
+    "                       [--group NAME] [--language ID]";
 constexpr std::string_view kHelp =
     "Reads an icon, cursor or animated cursor, or a picture (PNG, JPEG, GIF, BMP, Photoshop),\n"
     "and writes OUT by its extension. A picture becomes one 32-bit image; one larger than\n"
@@ -28,6 +30,14 @@ constexpr std::string_view kHelp =
     "         frames' rate in jiffies (1/60 s), the name, the artist and the play order\n"
     "  .png   a picture decoded and written again as PNG by Iconwright's codec (an icon\n"
     "         gives its largest image; use extract for every image)\n"
+    "A Windows program or library (.exe, .dll, .ocx, .cpl, .scr, .icl) gives one of its\n"
+    "icon or cursor groups ('info' lists them), its images and pixels unchanged:\n"
+    "  --group NAME      the group called NAME (a number or a name; for a .cur OUT the\n"
+    "                    cursor groups are looked at first); without it the first icon\n"
+    "                    group, as a file manager shows the program\n"
+    "  --language ID     the group in that language (a number, 1033 for US English);\n"
+    "                    without it the group's first\n"
+    "A cursor group written as .cur keeps the hotspot of its image --index.\n"
     "\n"
     "Exit status: 0 written, 1 the input could not be read or OUT not written, 2 usage error.\n";
 
@@ -104,6 +114,16 @@ int RunConvert(const Args& args) {
 
     CliContext context;
     IconSet set;
+    if (IsProgramFile(in)) {
+        const std::optional<ProgramFile> program = ProgramFile::Open(in);
+        // A program without groups is read as any other file, unless a group was asked for.
+        if (program && (!program->Groups().empty() || options.group || options.language)) {
+            if (!ReadProgramInput(*program, out, options, set, context)) return kExitFailed;
+            return WriteOutputSet(out, set, options, context) ? kExitOk : kExitFailed;
+        }
+    } else if (options.group || options.language) {
+        return UsageError("--group and --language take a program's groups", kUsage);
+    }
     if (!LoadInputSet(in, set, context)) return kExitFailed;
     return WriteOutputSet(out, set, options, context) ? kExitOk : kExitFailed;
 }

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "CliInput.h"
+#include "CliPrograms.h"
 #include "Commands.h"
 #include "document/io/PngExport.h"
 
@@ -14,8 +15,34 @@ constexpr std::string_view kUsage = "iconwright-cli extract FILE DIR";
 constexpr std::string_view kHelp =
     "Writes every image of an icon, cursor or animated cursor as DIR/<index>.png, as the\n"
     "file shows it (a PNG picture given as FILE is one image). DIR is made when missing.\n"
+    "A Windows program or library gives every icon and cursor group, each in its first\n"
+    "language, as DIR/<group>/<index>.png: <group> is the group's number or name (a cursor\n"
+    "group named as an icon group gets '-cursor' after it).\n"
     "\n"
     "Exit status: 0 written, 1 FILE could not be read or a picture not written, 2 usage error.\n";
+
+int ExportInto(const IconSet& set, const std::filesystem::path& dir) {
+    const ExportResult result = ExportImagesPng(set, dir);
+    if (!result.Ok()) {
+        std::cerr << "iconwright-cli: " << result.failed.string() << ": could not be written\n";
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+int ExtractGroups(const ProgramFile& program, const std::filesystem::path& dir,
+                  CliContext& context) {
+    const std::vector<ResourceGroup>& groups = program.Groups();
+    for (int i = 0; i < static_cast<int>(groups.size()); ++i) {
+        IconSet set;
+        if (!program.ReadGroup(i, std::nullopt, set, context.Core())) return kExitFailed;
+        const std::filesystem::path folder = dir / GroupFolderName(groups, i);
+        std::error_code ec;
+        std::filesystem::create_directories(folder, ec);
+        if (const int status = ExportInto(set, folder); status != kExitOk) return status;
+    }
+    return kExitOk;
+}
 
 }  // namespace
 
@@ -45,14 +72,13 @@ int RunExtract(const Args& args) {
         if (!LoadPictureInput(files[0], picture, context)) return kExitFailed;
         return WritePicturePng((dir / "0.png").string(), picture) ? kExitOk : kExitFailed;
     }
+    if (IsProgramFile(files[0])) {
+        const std::optional<ProgramFile> program = ProgramFile::Open(files[0]);
+        if (program && !program->Groups().empty()) return ExtractGroups(*program, dir, context);
+    }
     IconSet set;
     if (!LoadInputSet(files[0], set, context)) return kExitFailed;
-    const ExportResult result = ExportImagesPng(set, dir);
-    if (!result.Ok()) {
-        std::cerr << "iconwright-cli: " << result.failed.string() << ": could not be written\n";
-        return kExitFailed;
-    }
-    return kExitOk;
+    return ExportInto(set, dir);
 }
 
 }  // namespace iw::cli

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "CliPrograms.h"
 #include "Commands.h"
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
@@ -17,7 +18,15 @@ constexpr std::string_view kHelp =
     "  --json   print one JSON object:\n"
     "           {\"file\", \"mode\", \"images\": [{\"index\", \"width\", \"height\", \"bpp\",\n"
     "            \"png\", \"rate\"}], \"hotspot\": [x, y], \"name\", \"artist\",\n"
-    "            \"sequence\": [frame indices, empty without a sequence]}\n"
+    "            \"sequence\": [frame indices, empty without a sequence],\n"
+    "            \"groups\": [{\"type\": \"icon\" or \"cursor\", \"name\", \"numbered\",\n"
+    "             \"language\", \"languages\", \"images\": [{\"index\", \"width\", \"height\",\n"
+    "             \"bpp\", \"png\", \"found\", \"hotspot\": [x, y]}]}]}\n"
+    "\n"
+    "A Windows program or library (.exe, .dll, .ocx, .cpl, .scr, .icl) shows the first\n"
+    "icon group (as a file manager shows the program: the images above) and lists every\n"
+    "icon and cursor group, each in its first language with the other languages it has;\n"
+    "\"groups\" is empty for every other file.\n"
     "\n"
     "Exit status: 0 read, 1 the file could not be read, 2 usage error.\n";
 
@@ -33,7 +42,64 @@ const char* ModeName(FileMode mode) {
     return "ICO";
 }
 
-std::string AsJson(const std::string& path, const IconSet& set) {
+using Groups = std::vector<ResourceGroup>;
+
+std::string GroupsAsJson(const Groups& groups) {
+    std::ostringstream out;
+    out << "[";
+    for (std::size_t g = 0; g < groups.size(); ++g) {
+        const ResourceGroup& group = groups[g];
+        out << (g ? ", " : "") << "{\"type\": \"" << GroupKindName(group.kind)
+            << "\", \"name\": " << JsonString(group.name.Display())
+            << ", \"numbered\": " << (group.name.isText ? "false" : "true")
+            << ", \"language\": " << group.language << ", \"languages\": [";
+        for (std::size_t l = 0; l < group.languages.size(); ++l)
+            out << (l ? ", " : "") << group.languages[l];
+        out << "], \"images\": [";
+        for (std::size_t i = 0; i < group.images.size(); ++i) {
+            const ResourceImageSummary& image = group.images[i];
+            out << (i ? ", " : "") << "{\"index\": " << i << ", \"width\": " << image.width
+                << ", \"height\": " << image.height << ", \"bpp\": " << image.bitCount
+                << ", \"png\": " << (image.png ? "true" : "false")
+                << ", \"found\": " << (image.present ? "true" : "false") << ", \"hotspot\": ["
+                << image.hotspotX << ", " << image.hotspotY << "]}";
+        }
+        out << "]}";
+    }
+    out << "]";
+    return out.str();
+}
+
+std::string GroupsAsText(const Groups& groups) {
+    std::ostringstream out;
+    out << "Groups:  " << groups.size() << "\n";
+    for (const ResourceGroup& group : groups) {
+        out << "  " << GroupKindName(group.kind) << " " << group.name.Display() << ", language "
+            << group.language;
+        if (group.languages.size() > 1) {
+            out << " (also";
+            for (std::uint16_t language : group.languages) {
+                if (language != group.language) out << " " << language;
+            }
+            out << ")";
+        }
+        out << ", " << group.images.size() << (group.images.size() == 1 ? " image" : " images")
+            << "\n";
+        for (std::size_t i = 0; i < group.images.size(); ++i) {
+            const ResourceImageSummary& image = group.images[i];
+            out << "    #" << i << "  " << image.width << " x " << image.height << ", "
+                << image.bitCount << " bpp" << (image.png ? ", PNG" : "");
+            if (group.kind == ResourceGroupKind::Cursor) {
+                out << ", hotspot " << image.hotspotX << ", " << image.hotspotY;
+            }
+            if (!image.present) out << ", missing";
+            out << "\n";
+        }
+    }
+    return out.str();
+}
+
+std::string AsJson(const std::string& path, const IconSet& set, const Groups& groups) {
     std::ostringstream out;
     out << "{\"file\": " << JsonString(path) << ", \"mode\": \"" << ModeName(set.mode)
         << "\", \"images\": [";
@@ -51,11 +117,11 @@ std::string AsJson(const std::string& path, const IconSet& set) {
         for (std::size_t i = 0; i < frames.size(); ++i)
             out << (i ? ", " : "") << frames[i];
     }
-    out << "]}";
+    out << "], \"groups\": " << GroupsAsJson(groups) << "}";
     return out.str();
 }
 
-std::string AsText(const std::string& path, const IconSet& set) {
+std::string AsText(const std::string& path, const IconSet& set, const Groups& groups) {
     std::ostringstream out;
     out << "File:    " << path << "\n"
         << "Mode:    " << ModeName(set.mode) << "\n"
@@ -73,6 +139,7 @@ std::string AsText(const std::string& path, const IconSet& set) {
     if (!set.properties.name.empty()) out << "Name:    " << set.properties.name << "\n";
     if (!set.properties.artist.empty()) out << "Artist:  " << set.properties.artist << "\n";
     if (set.animation.sequenceInUse) out << "Sequence: " << set.properties.sequence << "\n";
+    if (!groups.empty()) out << GroupsAsText(groups);
     return out.str();
 }
 
@@ -101,7 +168,13 @@ int RunInfo(const Args& args) {
     CliContext context;
     IconSet set;
     if (!ReadIconFile(file, set, context.Core())) return kExitFailed;
-    std::cout << (json ? AsJson(file, set) + "\n" : AsText(file, set));
+    Groups groups;
+    if (IsProgramFile(file)) {
+        if (const std::optional<ProgramFile> program = ProgramFile::Open(file)) {
+            groups = program->Groups();
+        }
+    }
+    std::cout << (json ? AsJson(file, set, groups) + "\n" : AsText(file, set, groups));
     return kExitOk;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "document/io/IconFileReader.h"
@@ -23,6 +24,16 @@ struct EntryTable {
         EntrySize.push_back(size);
     }
 };
+
+// Reads the file at `path` whole into `bytes`, refusing files longer than the limits allow.
+IconReadStatus LoadWholeFile(const std::string& path, const IconReadLimits& limits,
+                             std::vector<std::uint8_t>& bytes);
+
+// What every read of a file ends with: on failure the set is emptied and the user told why
+// (a renamed picture, or a corrupt file, with the path); on success about re-marked
+// 16-colour images. Returns whether the read succeeded.
+bool FinishRead(const IconReadResult& result, std::span<const std::uint8_t> FileBytes,
+                const std::string& path, IconSet& set, CoreContext& context);
 
 // Walks the ".ico" directory: adds one image per accepted entry (at most 175) with the
 // entry's sides (field 0 from the height byte, field 1 from the width byte, 0 meaning 256)

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "services/core/MessageSuppression.h"
 #include "services/core/TextCatalog.h"
 
 namespace iw {
@@ -55,8 +56,9 @@ MessageAnswer MessageService::ShowMessage(std::string_view key, std::string_view
     request.type = type;
     request.iconIndex = MessageIconIndex(type);
     request.buttons = buttons;
+    request.suppressible = IsSuppressibleMessage(key);
     MessageBoxResult result = presenter_.Present(request);
-    if (result.suppressInFuture) store_.SetBool(FlagPath(key), true);
+    if (result.suppressInFuture && request.suppressible) store_.SetBool(FlagPath(key), true);
     return result.answer;
 }
 

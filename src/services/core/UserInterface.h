@@ -28,11 +28,13 @@ struct MessageBoxRequest {
     MessageType type = MessageType::Exclamation;
     int iconIndex = 1;  // icon index in user32.dll for the type
     MessageButtons buttons = MessageButtons::Ok;
+    // The window may offer "Don't show this message again" (see MessageSuppression.h).
+    bool suppressible = false;
 };
 
 struct MessageBoxResult {
     MessageAnswer answer = MessageAnswer::Ok;
-    bool suppressInFuture = false;  // the user ticked "do not show this again"
+    bool suppressInFuture = false;  // the user ticked "do not show this again" (suppressible only)
 };
 
 class IMessagePresenter {

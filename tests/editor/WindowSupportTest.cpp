@@ -1,0 +1,176 @@
+// What the main window asks of the core besides the editing itself: the palette strip's
+// colours, the tool state kept between runs, and the Check Icon command.
+#include <gtest/gtest.h>
+
+#include "EditorFakes.h"
+#include "editor/FormatsCheck.h"
+#include "editor/PaletteStrip.h"
+#include "editor/ToolSettings.h"
+#include "imaging/StandardColors.h"
+
+namespace iw {
+namespace {
+
+IconImage Image(int side, int bits, PackedColor fill) {
+    IconImage image;
+    image.info.widthMinus1 = static_cast<std::int16_t>(side - 1);
+    image.info.heightMinus1 = static_cast<std::int16_t>(side - 1);
+    image.info.bitCount = static_cast<std::int16_t>(bits);
+    for (int x = 0; x < side; ++x) {
+        for (int y = 0; y < side; ++y)
+            image.Color(x, y) = fill;
+    }
+    return image;
+}
+
+TEST(PaletteStrip, ImageColoursComeColumnByColumnWithoutMarkersOrRepeats) {
+    IconImage image = Image(4, 8, TransparentColor);
+    image.Color(1, 0) = PackColor(1, 0, 0);
+    image.Color(0, 3) = PackColor(2, 0, 0);  // column 0 is met first
+    image.Color(0, 2) = InverseColor;
+    image.Color(1, 1) = PackColor(2, 0, 0);  // seen already
+    image.Color(3, 3) = PackColor(3, 0, 0);
+    EXPECT_EQ(
+        DistinctColors(image),
+        (std::vector<PackedColor>{PackColor(2, 0, 0), PackColor(1, 0, 0), PackColor(3, 0, 0)}));
+    // Only the image's own cells count: a pixel beyond its sides is not one of its colours.
+    image.Color(4, 0) = PackColor(9, 9, 9);
+    EXPECT_EQ(DistinctColors(image).size(), 3u);
+}
+
+TEST(PaletteStrip, At256ColoursTheListStops) {
+    IconImage image = Image(32, 8, 0);
+    for (int i = 0; i < 32 * 32; ++i)
+        image.Color(i / 32, i % 32) = i;  // 1024 distinct colours
+    const std::vector<PackedColor> colors = DistinctColors(image);
+    ASSERT_EQ(colors.size(), 256u);
+    EXPECT_EQ(colors[255], 255);
+    EXPECT_EQ(PaletteStripColors(image).size(), 258u);
+}
+
+TEST(PaletteStrip, EachDepthGetsItsOwnColoursAfterTheTwoMarkers) {
+    const IconImage mono = Image(8, 1, 0);
+    const IconImage sixteen = Image(8, 4, 0);
+    IconImage blank8 = Image(8, 8, TransparentColor);
+    IconImage drawn8 = Image(8, 8, PackColor(7, 8, 9));
+    const IconImage deep = Image(8, 32, 0);
+    const auto strip = [](const IconImage& image) {
+        const std::vector<PackedColor> colors = PaletteStripColors(image);
+        EXPECT_EQ(colors[0], TransparentColor);
+        EXPECT_EQ(colors[1], InverseColor);
+        return std::vector<PackedColor>(colors.begin() + 2, colors.end());
+    };
+    EXPECT_EQ(strip(mono), std::vector<PackedColor>(kMonoColors.begin(), kMonoColors.end()));
+    EXPECT_EQ(strip(sixteen),
+              std::vector<PackedColor>(kStandard16Colors.begin(), kStandard16Colors.end()));
+    EXPECT_EQ(strip(drawn8), std::vector<PackedColor>{PackColor(7, 8, 9)});
+    EXPECT_EQ(strip(blank8), DefaultStripColors());
+    EXPECT_EQ(strip(deep), DefaultStripColors());
+    // The default palette starts with the sixteen and holds no colour twice.
+    const std::vector<PackedColor>& defaults = DefaultStripColors();
+    EXPECT_TRUE(std::equal(kStandard16Colors.begin(), kStandard16Colors.end(), defaults.begin()));
+    std::vector<PackedColor> sorted = defaults;
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(std::adjacent_find(sorted.begin(), sorted.end()), sorted.end());
+    EXPECT_GT(defaults.size(), 40u);
+}
+
+TEST(ToolSettings, TheToolItsOptionsAndColoursComeBackInTheNextRun) {
+    EditorEvents events;
+    ToolControls before(events);
+    before.SelectTool(ToolId::Line);
+    before.SetBrushShape("MCircle");
+    before.SetLineWidth("3");
+    before.SetSpraySize("8");
+    before.SetShapeFilled(true);
+    before.SetGradientDirection(GradientDirection::Center);
+    before.SetSelectionMode(SelectionMode::Transparent);
+    before.SetForeColor(PackColor(1, 2, 3));
+    before.SetBackColor(InverseColor);
+    before.SetAlpha(77);
+    XmlStore store;
+    SaveToolState(store, before.State());
+
+    ToolControls after(events);
+    RestoreToolState(store, after);
+    const ToolState& s = after.State();
+    EXPECT_EQ(s.CurrentTool, ToolId::Line);
+    EXPECT_EQ(s.BrushShape, "MCircle");
+    EXPECT_EQ(s.LineWidth, 3);
+    EXPECT_EQ(s.SpraySize, 8);
+    EXPECT_TRUE(s.ShapeFilled);
+    EXPECT_EQ(s.Gradient, GradientDirection::Center);
+    EXPECT_EQ(s.Selection, SelectionMode::Transparent);
+    EXPECT_EQ(s.ForeColor, PackColor(1, 2, 3));
+    EXPECT_EQ(s.BackColor, InverseColor);
+    EXPECT_EQ(s.CurrentAlpha, 77);
+}
+
+TEST(ToolSettings, StoredValuesTheControlsDoNotOfferLeaveTheDefaults) {
+    XmlStore store;
+    for (const auto& [key, value] : std::vector<std::pair<std::string_view, std::string_view>>{
+             {settings::Tool, "Hammer"},
+             {settings::BrushShape, "XLCircle"},
+             {settings::LineWidth, "5"},
+             {settings::SpraySize, "5"},
+             {settings::ShapeFill, "perhaps"},
+             {settings::Gradient, "4"},
+             {settings::SelectionMode, "-1"},
+             {settings::ForeColor, "16777216"},
+             {settings::BackColor, "-9"},
+             {settings::Alpha, "256"}}) {
+        store.SetValue(key, value);
+    }
+    EditorEvents events;
+    ToolControls tools(events);
+    RestoreToolState(store, tools);
+    const ToolState defaults;
+    const ToolState& s = tools.State();
+    EXPECT_EQ(s.CurrentTool, defaults.CurrentTool);
+    EXPECT_EQ(s.BrushShape, defaults.BrushShape);
+    EXPECT_EQ(s.LineWidth, defaults.LineWidth);
+    EXPECT_EQ(s.SpraySize, defaults.SpraySize);
+    EXPECT_EQ(s.ShapeFilled, defaults.ShapeFilled);
+    EXPECT_EQ(s.Gradient, defaults.Gradient);
+    EXPECT_EQ(s.Selection, defaults.Selection);
+    EXPECT_EQ(s.ForeColor, defaults.ForeColor);
+    EXPECT_EQ(s.BackColor, defaults.BackColor);
+    EXPECT_EQ(s.CurrentAlpha, defaults.CurrentAlpha);
+}
+
+TEST(ToolSettings, ShutdownWritesThemAndStartupReadsThem) {
+    {
+        test::EditorFixture first;
+        first.editor.RunStartup("", first.folders);
+        first.editor.Tools().SelectTool(ToolId::Ellipse);
+        first.editor.Shutdown();
+        test::EditorFixture second;
+        second.folders = first.folders;
+        second.editor.RunStartup("", second.folders);
+        EXPECT_EQ(second.editor.Tools().State().CurrentTool, ToolId::Ellipse);
+    }
+}
+
+struct CheckIcon : ::testing::Test {
+    test::EditorFixture f;
+    Editor& editor = f.editor;
+};
+
+TEST_F(CheckIcon, AddsTheMissingFormatsOfIconsOnly) {
+    f.Open(test::SolidSet(32, 32, PackColor(1, 2, 3)));
+    const int required = static_cast<int>(editor.Inspector().RequiredFormats().size());
+    ASSERT_GT(required, 1);
+    EXPECT_TRUE(FormatsCheckOffered(editor.Set()));
+    EXPECT_TRUE(RunFormatsCheck(editor.Inspector()));
+    EXPECT_EQ(editor.Set().Count(), required);
+    EXPECT_FALSE(RunFormatsCheck(editor.Inspector()));  // nothing missing any more
+    EXPECT_EQ(editor.Set().Count(), required);
+
+    f.Open(test::SolidSet(32, 32, PackColor(1, 2, 3)), "one.cur");
+    EXPECT_FALSE(FormatsCheckOffered(editor.Set()));
+    EXPECT_FALSE(RunFormatsCheck(editor.Inspector()));
+    EXPECT_EQ(editor.Set().Count(), 1);
+}
+
+}  // namespace
+}  // namespace iw

@@ -1,0 +1,138 @@
+// The main window's document work driven through its widgets: opening a file into the icon
+// list, drawing with the pencil and undoing it, the caption with its modified marker,
+// ask-to-save and save as.
+#include <QMenu>
+
+#include "WindowFixture.h"
+#include "document/io/IconFileReader.h"
+#include "ui/widgets/IconListView.h"
+
+namespace iw::test {
+namespace {
+
+const PackedColor kRed = PackColor(255, 0, 0);
+
+struct WindowDocument : WindowTest {
+    // Red from the palette strip and the Pencil by its key.
+    void ChooseRedPencil() {
+        ChooseFromPalette(kRed);
+        QTest::keyClick(window.get(), Qt::Key_P);
+    }
+};
+
+TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
+    Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());
+    auto* list = Find<ui::IconListView>("picIcons");
+    ASSERT_EQ(editor().Set().Count(), 7);
+    ASSERT_EQ(list->model()->rowCount(), 7);
+    EXPECT_EQ(list->model()->index(0, 0).data().toString(), QStringLiteral("256 x 256\n32 bit"));
+    EXPECT_TRUE(list->model()->index(0, 0).data(ui::IconListModel::PngRole).toBool());
+    EXPECT_EQ(list->model()->index(6, 0).data().toString(), QStringLiteral("16 x 16\n32 bit"));
+    EXPECT_FALSE(list->model()->index(6, 0).data(ui::IconListModel::PngRole).toBool());
+
+    const QModelIndex sixth = list->model()->index(5, 0);
+    list->scrollTo(sixth);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualRect(sixth).center());
+    EXPECT_EQ(editor().CurrentIcon(), 5);
+    EXPECT_EQ(editor().CurrentImage().info.Width(), 24);
+    // The canvas takes the new image's size at the current zoom.
+    EXPECT_EQ(window->Canvas()->width(), 24 * editor().View().State().PixelSize);
+}
+
+TEST_F(WindowDocument, APencilStrokeChangesTheSetAndUndoTakesItBack) {
+    Start();
+    ChooseRedPencil();
+    ASSERT_EQ(editor().Tools().State().CurrentTool, ToolId::Pencil);
+    ASSERT_EQ(editor().Tools().State().ForeColor, kRed);
+    const PackedColor before = PixelAt({3, 4});
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("untitled[*] - Quorvale Iconwright"));
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());
+
+    Stroke({{3, 4}, {4, 4}, {5, 4}});
+    EXPECT_EQ(PixelAt({3, 4}), kRed);
+    EXPECT_EQ(PixelAt({5, 4}), kRed);
+    EXPECT_NE(PixelAt({6, 4}), kRed);
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_TRUE(Find<QAction>("mnuUndo")->isEnabled());
+
+    Trigger("mnuUndo");
+    EXPECT_EQ(PixelAt({3, 4}), before);
+    EXPECT_EQ(PixelAt({5, 4}), before);
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());
+    EXPECT_TRUE(Find<QAction>("mnuRepeat")->isEnabled());
+    Trigger("mnuRepeat");
+    EXPECT_EQ(PixelAt({3, 4}), kRed);
+}
+
+TEST_F(WindowDocument, AskToSaveCancelKeepsTheDrawingAndNoDiscardsIt) {
+    Start();
+    ChooseRedPencil();
+    Stroke({{1, 1}});
+    ASSERT_EQ(PixelAt({1, 1}), kRed);
+
+    presenter.answers = {MessageAnswer::Cancel};
+    Trigger("mnuNew");
+    ASSERT_EQ(presenter.shown.size(), 1u);
+    EXPECT_EQ(presenter.shown[0].key, "SaveUntitled");
+    EXPECT_EQ(presenter.shown[0].buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(PixelAt({1, 1}), kRed);
+    EXPECT_TRUE(window->isWindowModified());
+
+    presenter.answers = {MessageAnswer::No};
+    Trigger("mnuClose");
+    EXPECT_EQ(presenter.shown.size(), 2u);
+    EXPECT_NE(PixelAt({1, 1}), kRed);
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("untitled[*] - Quorvale Iconwright"));
+    EXPECT_TRUE(files.saveModes.empty());  // No never saves
+}
+
+TEST_F(WindowDocument, SaveAsWritesTheFileItsNameBecomesTheCaptionAndTheRecentFile) {
+    Start();
+    ChooseRedPencil();
+    Stroke({{2, 3}});
+    files.savePath = (temp / "drawn.ico").string();
+    Trigger("mnuSaveAs");
+    ASSERT_EQ(files.saveModes, std::vector<FileMode>{FileMode::ICO});
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("drawn.ico[*] - Quorvale Iconwright"));
+    EXPECT_FALSE(window->isWindowModified());
+    QAction* recent = Find<QAction>("mnuRecent1");
+    EXPECT_TRUE(recent->isVisible());
+    EXPECT_TRUE(recent->text().endsWith(QStringLiteral("drawn.ico")));
+
+    IconSet read;
+    RecordingProgress progress;
+    RecordingLog log;
+    XmlStore store;
+    RecordingPresenter quiet;
+    MessageService messages(store, quiet);
+    CoreContext context{messages, progress, log};
+    ASSERT_TRUE(ReadIconFile(*files.savePath, read, context));
+    ASSERT_EQ(read.Count(), 1);
+    EXPECT_EQ(read.Image(0).Color(2, 3), kRed);
+
+    // Saving over it again asks first; No leaves it alone.
+    Stroke({{0, 0}});
+    presenter.answers = {MessageAnswer::No};
+    Trigger("mnuSaveAs");
+    ASSERT_FALSE(presenter.shown.empty());
+    EXPECT_EQ(presenter.shown.back().key, "OverwriteFile");
+    EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(WindowDocument, ACursorShowsItsModeInTheModeMenu) {
+    Start(TestDataPath("interop/icotool-cursor-32.cur").string());
+    EXPECT_EQ(Find<QMenu>("mnuMode")->title(), QStringLiteral("&Cursor"));
+    EXPECT_TRUE(Find<QAction>("mnuCUR")->isChecked());
+    EXPECT_FALSE(Find<QAction>("mnuCheckIcon")->isEnabled());
+    Trigger("mnuICO");
+    EXPECT_EQ(Find<QMenu>("mnuMode")->title(), QStringLiteral("&Icon"));
+    EXPECT_TRUE(Find<QAction>("mnuCheckIcon")->isEnabled());
+    EXPECT_TRUE(window->isWindowModified());
+}
+
+}  // namespace
+}  // namespace iw::test

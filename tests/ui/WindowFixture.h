@@ -1,0 +1,112 @@
+#pragma once
+// A main window over a temporary data folder, with its message boxes answered by a script
+// and its file dialogs by preset paths, driven as a user would through its widgets.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QTest>
+#include <deque>
+#include <memory>
+
+#include "support/TestSupport.h"
+#include "ui/adapters/FileChooser.h"
+#include "ui/main/MainWindow.h"
+#include "ui/widgets/CanvasWidget.h"
+#include "ui/widgets/PaletteStrip.h"
+
+namespace iw::test {
+
+// Answers each message box with the next scripted answer (OK once the script is spent).
+class ScriptedPresenter final : public IMessagePresenter {
+  public:
+    MessageBoxResult Present(const MessageBoxRequest& request) override {
+        shown.push_back(request);
+        MessageAnswer answer = MessageAnswer::Ok;
+        if (!answers.empty()) {
+            answer = answers.front();
+            answers.pop_front();
+        }
+        return {answer, false};
+    }
+    std::deque<MessageAnswer> answers;
+    std::vector<MessageBoxRequest> shown;
+};
+
+class ScriptedFiles final : public ui::IFileChooser {
+  public:
+    std::optional<std::string> ChooseOpenPath() override { return openPath; }
+    std::optional<std::string> ChooseSavePath(FileMode mode, const std::string&) override {
+        saveModes.push_back(mode);
+        return savePath;
+    }
+    std::optional<std::string> openPath;
+    std::optional<std::string> savePath;
+    std::vector<FileMode> saveModes;
+};
+
+class WindowTest : public ::testing::Test {
+  protected:
+    WindowTest() {
+        setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
+        std::filesystem::create_directories(temp / "data");
+        ui::MainWindowOptions options;
+        options.folders.dataFolder = temp / "data";
+        options.folders.programTemplates = TestDataPath("../../data/Templates");
+        options.folders.userTemplates = temp / "data" / "Templates";
+        options.presenter = &presenter;
+        options.files = &files;
+        options.splash = false;
+        window = std::make_unique<ui::MainWindow>(std::move(options));
+    }
+
+    // Starts the window with a command line and waits until it shows.
+    void Start(const std::string& commandLine = "") {
+        window->Start(QString::fromStdString(commandLine));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        QApplication::processEvents();  // the layout settles at the shown size
+    }
+
+    Editor& editor() { return window->GetEditor(); }
+
+    template <typename T = QWidget>
+    T* Find(const char* name) const {
+        T* found = window->findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    void Trigger(const char* action) { Find<QAction>(action)->trigger(); }
+
+    // The centre of an image cell on the canvas.
+    QPoint CellCentre(Point cell) {
+        const int size = editor().View().State().PixelSize;
+        return {cell.x * size + size / 2, cell.y * size + size / 2};
+    }
+    // A press at the first cell, moves through the others, the release at the last.
+    void Stroke(const std::vector<Point>& cells, Qt::MouseButton button = Qt::LeftButton) {
+        QWidget* canvas = window->Canvas();
+        QTest::mousePress(canvas, button, Qt::NoModifier, CellCentre(cells.front()));
+        for (std::size_t i = 1; i < cells.size(); ++i)
+            QTest::mouseMove(canvas, CellCentre(cells[i]));
+        QTest::mouseRelease(canvas, button, Qt::NoModifier, CellCentre(cells.back()));
+    }
+    PackedColor PixelAt(Point cell) { return editor().CurrentImage().Color(cell.x, cell.y); }
+    // A left click on that colour of the palette strip.
+    void ChooseFromPalette(PackedColor color) {
+        auto* palette = Find<ui::PaletteStrip>("picPalette");
+        const auto& colors = palette->Colors();
+        const auto found = std::find(colors.begin(), colors.end(), color);
+        ASSERT_NE(found, colors.end());
+        QTest::mouseClick(palette, Qt::LeftButton, Qt::NoModifier,
+                          palette->CellRect(static_cast<int>(found - colors.begin())).center());
+        ASSERT_EQ(editor().Tools().State().ForeColor, color);
+    }
+
+    TempDir temp;
+    ScriptedPresenter presenter;
+    ScriptedFiles files;
+    std::unique_ptr<ui::MainWindow> window;
+};
+
+}  // namespace iw::test
