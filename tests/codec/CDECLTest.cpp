@@ -59,35 +59,5 @@ TEST(cCDECL, RaisesItsThreeErrors) {
     EXPECT_EQ(dll.LastError(), 0u);
 }
 
-struct CallbackLog {
-    int calls = 0;
-    int lastValue = 0;
-};
-
-int Triple(void* context, int value) {
-    auto* log = static_cast<CallbackLog*>(context);
-    ++log->calls;
-    log->lastValue = value;
-    return value * 3;
-}
-
-// A loaded library calls a routine of the program through the wrapped entry.
-TEST(cCDECL, WrappedCallbackIsCalledFromTheLibrary) {
-    cCDECL dll;
-    ASSERT_TRUE(dll.DllLoad(StandIn("full")));
-    auto* entry = cCDECL::WrapCallback(&Triple);
-    EXPECT_EQ(entry, &Triple);  // one calling convention: nothing to forward
-    CallbackLog log;
-    for (int value : {0, 7, -40000}) {
-        const auto result =
-            dll.CallFunc("iw_standin_call_back", {reinterpret_cast<std::uintptr_t>(entry),
-                                                  reinterpret_cast<std::uintptr_t>(&log),
-                                                  static_cast<std::uintptr_t>(value)});
-        EXPECT_EQ(static_cast<int>(result), value * 3 + 1);
-        EXPECT_EQ(log.lastValue, value);
-    }
-    EXPECT_EQ(log.calls, 3);
-}
-
 }  // namespace
 }  // namespace iw

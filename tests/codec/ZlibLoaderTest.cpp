@@ -28,32 +28,24 @@ int StandInCounter(const std::string& variant, const std::string& counter) {
     return static_cast<int>(dll.CallFunc(counter, {}));
 }
 
-// The first name that loads and exports crc32 is taken; its version mark counts from the
-// end of the list.
-TEST(ZlibLoader, TakesTheFirstUsableNameAndMarksHowEarlyItStood) {
-    const std::string none = "/nonexistent/libz-none.so";
-    const struct {
-        std::vector<std::string> names;
-        std::string taken;  // empty: none
-        int mark;
-        bool compress2;
-    } cases[] = {
-        {{none, StandIn("full"), StandIn("nocompress2")}, StandIn("full"), 2, true},
-        {{StandIn("nocompress2"), StandIn("full")}, StandIn("nocompress2"), 2, false},
-        {{none, StandIn("full")}, StandIn("full"), 1, true},
-        // Without crc32 the library is not used, nor is its compress2 remembered.
-        {{StandIn("nocrc"), StandIn("nocompress2")}, StandIn("nocompress2"), 1, false},
-        {{StandIn("nocrc")}, "", 0, false},
-        {ZlibLibrary::DefaultNames(), ZlibLibrary::DefaultNames()[0], 2, true},
+// The first name that loads and exports crc32 is taken; without crc32 a library is not
+// used, nor is its compress2 remembered.
+TEST(ZlibLoader, TakesTheFirstUsableName) {
+    const std::string none = "/nonexistent/libz-none.so", full = StandIn("full"),
+                      no2 = StandIn("nocompress2"), nocrc = StandIn("nocrc");
+    const std::tuple<std::vector<std::string>, std::string, bool> cases[] = {
+        {{none, full, no2}, full, true},
+        {{no2, full}, no2, false},
+        {{nocrc, no2}, no2, false},
+        {{nocrc}, "", false},
+        {ZlibLibrary::DefaultNames(), ZlibLibrary::DefaultNames()[0], true},
     };
     ZlibLibrary lib;
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.names[0]);
-        EXPECT_EQ(lib.Load(c.names), !c.taken.empty());
-        EXPECT_EQ(lib.IsLoaded(), !c.taken.empty());
-        EXPECT_EQ(lib.Name(), c.taken);
-        EXPECT_EQ(lib.VersionMark(), c.mark);
-        EXPECT_EQ(lib.HasCompress2(), c.compress2);
+    for (const auto& [names, taken, compress2] : cases) {
+        EXPECT_EQ(lib.Load(names), !taken.empty()) << names[0];
+        EXPECT_EQ(std::tuple(lib.IsLoaded(), lib.Name(), lib.HasCompress2()),
+                  std::tuple(!taken.empty(), taken, compress2))
+            << names[0];
     }
 }
 
@@ -72,9 +64,7 @@ TEST(ZlibLoader, CompressesWithCompress2AtLevelNineElseWithCompress) {
         EXPECT_EQ(StandInCounter(variant, "iw_standin_compress_calls"), before + (full ? 0 : 1));
         EXPECT_EQ(StandInCounter(variant, "iw_standin_last_level"), full ? 9 : -100);
         // The stream is one any reader takes.
-        std::vector<std::uint8_t> own, ref(data.size());
-        EXPECT_EQ(InflateZlib(stream, data.size(), own), InflateStatus::Ok);
-        EXPECT_EQ(own, data);
+        std::vector<std::uint8_t> ref(data.size());
         uLongf refSize = ref.size();
         EXPECT_EQ(uncompress(ref.data(), &refSize, stream.data(), stream.size()), Z_OK);
         EXPECT_EQ(ref, data);

@@ -167,7 +167,7 @@ def check_ani(tmp):
         picture(32).rotate(90 * i).save(path)
         frames.append(path + ":32")
     ani = os.path.join(tmp, "spin.ani")
-    run("pack", ani, *frames, "--rate", "8", "--name", "Spin", "--artist", "Ann", "--sequence", "0,1,2,1", "--hotspot", "4,5")
+    run("pack", ani, *frames, "--rate", "8", "--name", "Spinner", "--artist", "Ann", "--sequence", "0,1,2,1", "--hotspot", "4,5")
     data = open(ani, "rb").read()
     checked += 1
     try:
@@ -176,7 +176,7 @@ def check_ani(tmp):
         chunks = []
         walk(data, 12, len(data), "", chunks)
         found = dict(chunks)
-        if found.get("LIST:INFO/INAM") != b"Spin" or found.get("LIST:INFO/IART") != b"Ann":
+        if found.get("LIST:INFO/INAM") != b"Spinner" or found.get("LIST:INFO/IART") != b"Ann":
             raise ValueError("name or artist missing")
         anih = struct.unpack("<9I", found["anih"])
         if anih != (36, 3, 4, 0, 0, 0, 0, 8, 1):
