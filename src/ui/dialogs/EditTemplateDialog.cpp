@@ -15,6 +15,7 @@
 
 #include "services/desktop/DesktopTexts.h"
 #include "ui/UiText.h"
+#include "ui/dialogs/DialogParts.h"
 
 namespace iw::ui {
 namespace {
@@ -24,7 +25,7 @@ constexpr int kAlphaIndex = 4;  // the depth list's default: 32 bits
 
 // The window's captions, in one place.
 QString Text(std::string_view key) {
-    static const std::pair<std::string_view, std::string_view> captions[] = {
+    static constexpr CaptionEntry kCaptions[] = {
         {"Caption", "Edit Template"},
         {"lblName", "&Name:"},
         {"colSize", "Size"},
@@ -41,16 +42,11 @@ QString Text(std::string_view key) {
         {"cmdMoveDown", "Move &Down"},
         {"cmdSave", "&Save"},
     };
-    for (const auto& [name, text] : captions) {
-        if (name == key) return Caption(kWindow, name, text);
-    }
-    return {};
+    return CaptionFrom(kWindow, kCaptions, key);
 }
 
 QPushButton* Button(QWidget* parent, const char* name) {
-    auto* button = new QPushButton(Text(name), parent);
-    button->setObjectName(QString::fromLatin1(name));
-    return button;
+    return CaptionedButton(parent, name, Text(name));
 }
 
 QLineEdit* SideBox(QWidget* parent, const char* name) {
@@ -85,12 +81,8 @@ EditTemplateDialog::EditTemplateDialog(MessageService& messages,
     auto* nameLabel = new QLabel(Text("lblName"), this);
     nameLabel->setBuddy(name_);
 
-    rows_ = new QTreeWidget(this);
-    rows_->setObjectName(QStringLiteral("lstFormats"));
-    rows_->setRootIsDecorated(false);
-    rows_->setUniformRowHeights(true);
-    rows_->setAllColumnsShowFocus(true);
-    rows_->setHeaderLabels({Text("colSize"), Text("colColors"), Text("colCompressed")});
+    rows_ =
+        FlatList(this, "lstFormats", {Text("colSize"), Text("colColors"), Text("colCompressed")});
     rows_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     rows_->setMinimumSize(320, 220);
     connect(rows_, &QTreeWidget::currentItemChanged, this, [this] {

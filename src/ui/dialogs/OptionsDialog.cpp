@@ -16,6 +16,7 @@
 #include "editor/BlankIcons.h"
 #include "services/desktop/DesktopTexts.h"
 #include "ui/UiText.h"
+#include "ui/dialogs/DialogParts.h"
 #include "ui/dialogs/EditTemplateDialog.h"
 
 namespace iw::ui {
@@ -25,7 +26,7 @@ constexpr std::string_view kWindow = "frmOptions";
 
 // The window's captions, in one place.
 QString Text(std::string_view key) {
-    static const std::pair<std::string_view, std::string_view> captions[] = {
+    static constexpr CaptionEntry kCaptions[] = {
         {"Caption", "Options"},
         {"tabGeneral", "General"},
         {"tabTemplates", "Templates"},
@@ -49,16 +50,11 @@ QString Text(std::string_view key) {
         {"cmdDelete", "&Delete"},
         {"Compressed", "compressed"},
     };
-    for (const auto& [name, text] : captions) {
-        if (name == key) return Caption(kWindow, name, text);
-    }
-    return {};
+    return CaptionFrom(kWindow, kCaptions, key);
 }
 
 QPushButton* Button(QWidget* parent, const char* name) {
-    auto* button = new QPushButton(Text(name), parent);
-    button->setObjectName(QString::fromLatin1(name));
-    return button;
+    return CaptionedButton(parent, name, Text(name));
 }
 
 // A blank icon kind as the list shows it: "32 x 32, Alpha".
@@ -158,12 +154,8 @@ QWidget* OptionsDialog::MakeGeneralTab() {
 QWidget* OptionsDialog::MakeTemplatesTab() {
     auto* page = new QWidget(this);
     page->setObjectName(QStringLiteral("tabTemplates"));
-    templates_ = new QTreeWidget(page);
-    templates_->setObjectName(QStringLiteral("lstTemplates"));
-    templates_->setRootIsDecorated(false);
-    templates_->setUniformRowHeights(true);
-    templates_->setAllColumnsShowFocus(true);
-    templates_->setHeaderLabels({Text("colName"), Text("colFormats"), Text("colLocked")});
+    templates_ =
+        FlatList(page, "lstTemplates", {Text("colName"), Text("colFormats"), Text("colLocked")});
     templates_->header()->setStretchLastSection(false);
     templates_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     templates_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
