@@ -236,9 +236,26 @@ TEST_F(Lifecycle, ShutdownWritesTheStores) {
     for (int i = 1; i < 7; ++i)
         editor.View().ZoomIn();
     editor.Settings().SetStartupAction(2);
+    editor.Settings().SetUseFont(true);
+    editor.Settings().SetSplash(false);
+    editor.Settings().SetBlankIcon(3);
+    // Clear Messages: a silenced message shows again, and the store is written emptied.
+    MessageService& messages = editor.Settings().Messages();
+    messages.Store().SetBool("Messages\\CreateCursor", true);
+    ASSERT_TRUE(messages.IsSuppressed("CreateCursor"));
+    editor.Settings().ClearMessages();
+    EXPECT_FALSE(messages.IsSuppressed("CreateCursor"));
     editor.Shutdown();
     XmlStore written;
     written.Load(f.folders.dataFolder / "settings.xml");
+    WindowSettings reread;
+    LoadStartupSettings(written, reread);
+    EXPECT_TRUE(reread.useFont);
+    EXPECT_FALSE(reread.splash);
+    EXPECT_EQ(reread.blankIcon, 3);
+    XmlStore writtenMessages;
+    writtenMessages.Load(f.folders.dataFolder / "messages.xml");
+    EXPECT_EQ(writtenMessages.GetValue("Messages\\CreateCursor", "absent"), "absent");
     EXPECT_EQ(std::tuple(written.GetValue("Settings\\Pixelsize", ""),
                          written.GetValue("Settings\\Startup", ""),
                          written.GetValue("Settings\\ExitOK", "")),

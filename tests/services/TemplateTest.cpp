@@ -164,5 +164,112 @@ TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
     EXPECT_EQ(ReadTemplateFile(user / "Tiny.ini")->size(), 1u);
 }
 
+TEST_F(TemplateEditing, TheAddButtonTakesOnlyWholeSidesFrom1To256) {
+    struct Case {
+        const char* width;
+        const char* height;
+        int depthIndex;
+        int compressedIndex;
+        bool added;
+    };
+    const Case cases[] = {
+        {"16", "24", 0, 0, true},  {"+32", "32", 4, 1, true},         {"256", "1", 2, 0, true},
+        {"0", "16", 4, 0, false},  {"16", "257", 4, 0, false},        {"4.5", "16", 4, 0, false},
+        {"", "16", 4, 0, false},   {"99999999999", "1", 4, 0, false}, {"-16", "16", 4, 0, false},
+        {"16", "16", 5, 0, false},
+    };
+    std::size_t messagesBefore = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.width) + " x " + c.height);
+        const std::size_t rows = editor.Entries().size();
+        EXPECT_EQ(editor.AddItemText(c.width, c.height, c.depthIndex, c.compressedIndex), c.added);
+        EXPECT_EQ(editor.Entries().size(), rows + (c.added ? 1 : 0));
+        const bool told = messages.presenter.shown.size() > messagesBefore;
+        // Every refused side is told; a depth outside the list cannot be chosen in the window.
+        EXPECT_EQ(told, !c.added && c.depthIndex < 5);
+        if (told) {
+            EXPECT_EQ(messages.presenter.shown.back().text,
+                      "Please enter an integer between 1 and 256.");
+        }
+        messagesBefore = messages.presenter.shown.size();
+    }
+    ASSERT_EQ(editor.Entries().size(), 3u);
+    EXPECT_EQ(editor.Rows()[0].size, "16 x 24");
+    EXPECT_EQ(editor.Rows()[0].depth, "Monochrome");
+    EXPECT_EQ(editor.Rows()[1].compressed, "Yes");
+    EXPECT_EQ(editor.Rows()[1].depth, "Alpha");
+    EXPECT_EQ(editor.Rows()[2].depth, "256 Colors");
+    while (editor.Entries().size() < 65)
+        editor.AddItem(16, 16, 32, false);
+    EXPECT_FALSE(editor.AddItemText("16", "16", 4, 0));
+    EXPECT_EQ(messages.presenter.shown.back().text, "You cannot add anymore icons.");
+}
+
+TEST_F(TemplateEditing, AViewedShippedTemplateRefusesEveryChange) {
+    IconTemplate shipped;
+    shipped.name = "Shipped";
+    shipped.path = (user / "Shipped.ini").string();
+    shipped.lock = "LOCKED";
+    shipped.entries.resize(2);
+    editor.ViewTemplate(shipped);
+    EXPECT_TRUE(editor.ReadOnly());
+    EXPECT_EQ(editor.Rows().size(), 2u);
+    editor.SelectRow(1);
+    EXPECT_FALSE(editor.AddItemText("16", "16", 0, 0));
+    EXPECT_FALSE(editor.RemoveItem());
+    EXPECT_FALSE(editor.MoveUp());
+    EXPECT_FALSE(editor.Save("Shipped"));
+    EXPECT_FALSE(editor.SaveTemplatesAs("Copy"));
+    EXPECT_EQ(messages.presenter.shown.size(), 5u);
+    for (const auto& shown : messages.presenter.shown)
+        EXPECT_EQ(shown.text, "This template cannot be edited.");
+    EXPECT_EQ(editor.Entries(), shipped.entries);
+    EXPECT_FALSE(std::filesystem::exists(shipped.path));
+    EXPECT_FALSE(std::filesystem::exists(user / "Copy.ini"));
+    editor.NewTemplate();
+    EXPECT_FALSE(editor.ReadOnly());
+}
+
+TEST_F(TemplateEditing, SavingANewTemplateAsksBeforeReplacingOne) {
+    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
+    editor.NewTemplate();
+    editor.AddItem(16, 16, 8, false);
+    EXPECT_FALSE(editor.Save("a:b"));
+    EXPECT_EQ(messages.presenter.shown.back().key, "TemplateName");
+    messages.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(editor.Save("Mine"));
+    EXPECT_EQ(messages.presenter.shown.back().text,
+              "The file " + (user / "Mine.ini").string() + " already exists.  OK to overwrite?");
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->front().Width(), 48);
+    EXPECT_EQ(editor.Name(), "NEW");
+    messages.presenter.answer = MessageAnswer::Yes;
+    ASSERT_TRUE(editor.Save("Mine"));
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->front().Width(), 16);
+    // From now on Save writes the same file without asking.
+    const std::size_t asked = messages.presenter.shown.size();
+    editor.AddItem(32, 32, 8, false);
+    ASSERT_TRUE(editor.Save("ignored"));
+    EXPECT_EQ(messages.presenter.shown.size(), asked);
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->size(), 2u);
+}
+
+TEST_F(TemplateEditing, DeletingAsksAndSparesTheProgramsTemplates) {
+    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
+    IconTemplate mine{"Mine", (user / "Mine.ini").string(), "", {}};
+    messages.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(DeleteTemplate(mine, messages.service));
+    EXPECT_EQ(messages.presenter.shown.back().text,
+              "Delete the template \"Mine\"?  This cannot be undone.");
+    EXPECT_TRUE(std::filesystem::exists(mine.path));
+    messages.presenter.answer = MessageAnswer::Yes;
+    EXPECT_TRUE(DeleteTemplate(mine, messages.service));
+    EXPECT_FALSE(std::filesystem::exists(mine.path));
+    WriteText(user / "Shipped.ini", "48,48,32,0\r\n");
+    IconTemplate shipped{"Shipped", (user / "Shipped.ini").string(), "LOCKED", {}};
+    EXPECT_FALSE(DeleteTemplate(shipped, messages.service));
+    EXPECT_EQ(messages.presenter.shown.back().text, "This template cannot be edited.");
+    EXPECT_TRUE(std::filesystem::exists(shipped.path));
+}
+
 }  // namespace
 }  // namespace iw
