@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -22,6 +23,8 @@ constexpr std::string_view kWindow = "frmText";
 constexpr int kMinSize = 1;
 constexpr int kMaxSize = 200;
 constexpr int kPreviewSide = 96;
+constexpr int kMaxPreviewScale = 8;
+constexpr int kCheckerSquare = 8;
 
 QString C(std::string_view key, std::string_view text) {
     return Caption(kWindow, key, text);
@@ -118,13 +121,24 @@ void TextDialog::Refresh() {
         preview_->clear();
         return;
     }
-    // The pixels as they will land, enlarged without smoothing when they are few.
-    const QSize room =
-        preview_->contentsRect().size().boundedTo(QSize(kPreviewSide * 4, kPreviewSide));
-    const int scale = std::max(1, std::min(room.width() / std::max(1, picture.width()),
-                                           room.height() / std::max(1, picture.height())));
-    preview_->setPixmap(QPixmap::fromImage(picture.scaled(
-        picture.size() * std::min(scale, 4), Qt::KeepAspectRatio, Qt::FastTransformation)));
+    // The pixels as they will land, enlarged without smoothing, over a mid-grey
+    // checkerboard on which both black and white text show.
+    const QSize room = preview_->contentsRect().size();
+    const int scale =
+        std::clamp(std::min(room.width() / picture.width(), room.height() / picture.height()), 1,
+                   kMaxPreviewScale);
+    QPixmap shown(picture.size() * scale);
+    QPainter painter(&shown);
+    for (int y = 0; y < shown.height(); y += kCheckerSquare) {
+        for (int x = 0; x < shown.width(); x += kCheckerSquare) {
+            const bool dark = (x / kCheckerSquare + y / kCheckerSquare) % 2 != 0;
+            painter.fillRect(x, y, kCheckerSquare, kCheckerSquare,
+                             dark ? QColor(118, 124, 134) : QColor(156, 162, 172));
+        }
+    }
+    painter.drawImage(shown.rect(), picture);
+    painter.end();
+    preview_->setPixmap(shown);
 }
 
 }  // namespace iw::ui
