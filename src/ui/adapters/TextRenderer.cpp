@@ -5,8 +5,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "ui/adapters/RgbaImage.h"
-
 namespace iw::ui {
 namespace {
 
@@ -33,15 +31,36 @@ RgbaPicture RenderText(const QString& text, const TextLook& look) {
     image.setDotsPerMeterY(kDotsPerMetre);
     image.fill(Qt::transparent);
 
-    const PackedColor c = IsMarker(look.color) ? PackColor(0, 0, 0) : look.color;
+    // The glyphs' coverage first, in opaque black; the colour is laid on afterwards, so
+    // partly covered pixels keep the exact colour (drawing in it with alpha would round it
+    // through premultiplication).
     QPainter painter(&image);
     painter.setRenderHint(QPainter::TextAntialiasing, look.antialias);
     painter.setRenderHint(QPainter::Antialiasing, look.antialias);
     painter.setFont(font);
-    painter.setPen(QColor(RedOf(c), GreenOf(c), BlueOf(c), std::clamp(look.alpha, 0, 255)));
+    painter.setPen(Qt::black);
     painter.drawText(QRect(-box.left(), -box.top(), box.width(), box.height()), kFlags, text);
     painter.end();
-    return PictureOfQImage(image);
+
+    const PackedColor c = IsMarker(look.color) ? PackColor(0, 0, 0) : look.color;
+    const int alpha = std::clamp(look.alpha, 0, 255);
+    RgbaPicture picture;
+    picture.width = image.width();
+    picture.height = image.height();
+    picture.rgba.resize(static_cast<std::size_t>(picture.width) *
+                        static_cast<std::size_t>(picture.height) * 4);
+    std::uint8_t* out = picture.rgba.data();
+    for (int y = 0; y < picture.height; ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < picture.width; ++x, out += 4) {
+            const int coverage = qAlpha(line[x]);
+            out[0] = static_cast<std::uint8_t>(RedOf(c));
+            out[1] = static_cast<std::uint8_t>(GreenOf(c));
+            out[2] = static_cast<std::uint8_t>(BlueOf(c));
+            out[3] = static_cast<std::uint8_t>((coverage * alpha + 127) / 255);
+        }
+    }
+    return picture;
 }
 
 }  // namespace iw::ui

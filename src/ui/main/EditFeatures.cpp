@@ -10,28 +10,26 @@
 #include "ui/adapters/QtClipboard.h"
 #include "ui/dialogs/TextDialog.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/MainTexts.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/CanvasWidget.h"
 
 namespace iw::ui {
 namespace {
 
-constexpr std::string_view kWindow = "frmMain";
+using main_texts::T;
+
 constexpr int kDefaultTextSize = 12;
 
-constexpr TextId T(std::string_view key, std::string_view text) {
-    return {key, kWindow, text};
-}
-
-inline constexpr TextId Cut = T("mnuCut", "Cu&t");
-inline constexpr TextId Copy = T("mnuCopy", "&Copy");
-inline constexpr TextId Paste = T("mnuPaste", "&Paste");
-inline constexpr TextId Delete = T("mnuDelete", "&Delete");
-inline constexpr TextId SelectAll = T("mnuSelectAll", "Select &All");
-inline constexpr TextId SetHotspot = T("mnuSetHotspot", "Set &Hotspot");
+constexpr TextId Cut = T("mnuCut", "Cu&t");
+constexpr TextId Copy = T("mnuCopy", "&Copy");
+constexpr TextId Paste = T("mnuPaste", "&Paste");
+constexpr TextId Delete = T("mnuDelete", "&Delete");
+constexpr TextId SelectAll = T("mnuSelectAll", "Select &All");
+constexpr TextId SetHotspot = T("mnuSetHotspot", "Set &Hotspot");
 
 // Follows the editor for the commands' states and the canvas's selection and hotspot. It
-// lives as long as the window, which destroys its editor first, so it never unregisters.
+// stops following when the canvas goes, which the window deletes before its editor.
 class EditFeatures final : public QObject, public IEditorObserver {
   public:
     explicit EditFeatures(MainWindow& window)
@@ -49,6 +47,8 @@ class EditFeatures final : public QObject, public IEditorObserver {
         }
         connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { Refresh(); });
         editor_.AddObserver(*this);
+        connect(window.Canvas(), &QObject::destroyed, this,
+                [this] { editor_.RemoveObserver(*this); });
         Refresh();
     }
 
