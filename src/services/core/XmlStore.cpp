@@ -112,6 +112,11 @@ void XmlStore::Clear() {
     doc_->append_child(kRootName);
 }
 
+void XmlStore::LoadFromString(std::string_view xml) {
+    pugi::xml_parse_result ok = doc_->load_buffer(xml.data(), xml.size(), pugi::parse_default);
+    if (!ok || !doc_->document_element()) Clear();
+}
+
 bool XmlStore::Load(const std::filesystem::path& file) {
     path_ = file;
     Clear();

@@ -29,6 +29,7 @@ class XmlStore {
     // path is not written. The file is replaced only once the new text is fully on disk.
     bool Save() const;
 
+    void LoadFromString(std::string_view xml);
     // The store laid out with "\r\n" between elements.
     std::string ToString() const;
 
