@@ -13,6 +13,7 @@
 #include <array>
 
 #include "ui/UiText.h"
+#include "ui/dialogs/DialogParts.h"
 
 namespace iw::ui {
 namespace {
@@ -105,16 +106,7 @@ AttributesDialog::AttributesDialog(ImageListCommands& images, Purpose purpose,
     compressed_->setObjectName(QStringLiteral("chkCompressed"));
     compressed_->setChecked(start.compressed);
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok =
-        buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
 
     auto* columns = new QHBoxLayout;
     columns->addWidget(sizeBox, 0, Qt::AlignTop);

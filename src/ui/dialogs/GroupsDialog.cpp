@@ -13,6 +13,7 @@
 
 #include "services/core/QuietContext.h"
 #include "ui/UiText.h"
+#include "ui/dialogs/DialogParts.h"
 #include "ui/widgets/IconListView.h"
 
 namespace iw::ui {
@@ -62,13 +63,11 @@ GroupsDialog::GroupsDialog(const ProgramFile& program, const GroupChoice& curren
     intro->setObjectName(QStringLiteral("lblGroups"));
     intro->setWordWrap(true);
 
-    groups_ = new QTreeWidget(this);
-    groups_->setObjectName(QStringLiteral("lstGroups"));
-    groups_->setRootIsDecorated(false);
+    groups_ = FlatList(
+        this, "lstGroups",
+        {Text("colGroup", "Group"), Text("colLanguage", "Language"), Text("colImages", "Images"),
+         Text("colSizes", "Sizes"), Text("colDepths", "Bits per pixel")});
     groups_->setIconSize(QSize(kPictureSide, kPictureSide));
-    groups_->setHeaderLabels({Text("colGroup", "Group"), Text("colLanguage", "Language"),
-                              Text("colImages", "Images"), Text("colSizes", "Sizes"),
-                              Text("colDepths", "Bits per pixel")});
 
     // The pictures are read without telling the user anything: a group that cannot be read
     // shows no picture here and says why when it is opened.
