@@ -1,6 +1,7 @@
 #include "imaging/ResizePresenter.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "imaging/Rounding.h"
 #include "services/core/ParseInteger.h"
@@ -37,9 +38,15 @@ void ResizePresenter::SetMode(Mode mode) {
     }
 }
 
-bool ResizePresenter::Accept(std::string_view text, int& entry) {
+std::optional<int> ResizePresenter::Parse(std::string_view text) {
     const auto value = ParseInteger<int>(text);
-    if (!value || *value < kMinEntry || *value > kMaxEntry) {
+    if (!value || *value < kMinEntry || *value > kMaxEntry) return std::nullopt;
+    return value;
+}
+
+bool ResizePresenter::Accept(std::string_view text, int& entry) {
+    const std::optional<int> value = Parse(text);
+    if (!value) {
         messages_.Show(texts::Integer500, MessageType::Exclamation);
         return false;
     }
@@ -66,6 +73,12 @@ int ResizePresenter::NewWidth() const {
 
 int ResizePresenter::NewHeight() const {
     return NewSide(height_, vertical_);
+}
+
+std::string ResizePresenter::NewTextWhileTyping(std::string_view horizontal,
+                                                std::string_view vertical) const {
+    return SizeText(kNewLabel, NewSide(width_, Parse(horizontal).value_or(horizontal_)),
+                    NewSide(height_, Parse(vertical).value_or(vertical_)));
 }
 
 std::string ResizePresenter::CurrentText() const {

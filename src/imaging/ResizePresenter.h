@@ -4,6 +4,7 @@
 // lblV), the current and the new size (lblCurrent, lblNew). The window shows what this
 // object holds and, on OK, resamples to NewWidth() x NewHeight() (ResizePixels).
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,8 +42,12 @@ class ResizePresenter {
     // lblCurrent and lblNew, for example "Current Size: 32 x 32" and "New Size: 64 x 64".
     std::string CurrentText() const;
     std::string NewText() const;
+    // lblNew while the user types: each entry's text counts when it is a whole number from
+    // 1 to 500, else that entry's held value does. Nothing is taken and nothing is shown.
+    std::string NewTextWhileTyping(std::string_view horizontal, std::string_view vertical) const;
 
   private:
+    static std::optional<int> Parse(std::string_view text);
     bool Accept(std::string_view text, int& entry);
     int NewSide(int current, int entry) const;
 

@@ -48,6 +48,13 @@ TEST(ResizePresenter, EntriesOutsideOneTo500AreRefusedWithTheMessage) {
     EXPECT_EQ(messages.presenter.shown[0].text, "Please enter an integer between 1 and 500");
     EXPECT_TRUE(resize.SetVertical("500"));
     EXPECT_EQ(messages.presenter.shown.size(), 16u);
+
+    // While typing, a valid text shows in the new size and a bad one falls back to the held
+    // entry, quietly and without taking either.
+    EXPECT_EQ(resize.NewTextWhileTyping("50", "60"), "New Size: 32 x 38");
+    EXPECT_EQ(resize.NewTextWhileTyping("501", "x"), "New Size: 64 x 256");
+    EXPECT_EQ(resize.Horizontal(), 100);
+    EXPECT_EQ(messages.presenter.shown.size(), 16u);
 }
 
 }  // namespace
