@@ -95,12 +95,17 @@ TEST_F(ImageWindows, ResizeTakesPixelsRefusesABadEntryAndUndoes) {
     EXPECT_EQ(horizontal->text(), QStringLiteral("256"));
     EXPECT_EQ(Dialog("frmResize"), dialog);
 
+    // The vertical entry follows while proportions are kept, and not once they are not.
     horizontal->setFocus();
     horizontal->selectAll();
     QTest::keyClicks(horizontal, QStringLiteral("48"));
+    EXPECT_EQ(vertical->text(), QStringLiteral("48"));
+    EXPECT_EQ(In<QLabel>(dialog, "lblNew")->text(), QStringLiteral("New Size: 48 x 48"));
+    Click(dialog, "chkProportions");
     vertical->setFocus();
     vertical->selectAll();
     QTest::keyClicks(vertical, QStringLiteral("24"));
+    EXPECT_EQ(horizontal->text(), QStringLiteral("48"));
     EXPECT_EQ(In<QLabel>(dialog, "lblNew")->text(), QStringLiteral("New Size: 48 x 24"));
     Click(dialog, "cmdOK");  // the vertical entry counts though it was not left
     EXPECT_EQ(Dialog("frmResize"), nullptr);

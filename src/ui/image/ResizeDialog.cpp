@@ -1,5 +1,6 @@
 #include "ui/image/ResizeDialog.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -54,15 +55,15 @@ ResizeDialog::ResizeDialog(Editor& editor, QWidget* parent)
         if (on) SetMode(ResizePresenter::Mode::Pixels);
     });
 
-    const auto entry = [this, frame](const char* name) {
+    const auto makeEntry = [this, frame](const char* name) {
         auto* edit = new QLineEdit(frame);
         edit->setObjectName(QString::fromLatin1(name));
         edit->setMaxLength(4);
         edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 16);
         return edit;
     };
-    horizontal_ = entry("txtH");
-    vertical_ = entry("txtV");
+    horizontal_ = makeEntry("txtH");
+    vertical_ = makeEntry("txtV");
     auto* labelH = new QLabel(Text("lblH", "&Horizontal:"), frame);
     labelH->setObjectName(QStringLiteral("lblH"));
     labelH->setBuddy(horizontal_);
@@ -71,12 +72,21 @@ ResizeDialog::ResizeDialog(Editor& editor, QWidget* parent)
     labelV->setBuddy(vertical_);
     horizontalUnit_ = new QLabel(frame);
     verticalUnit_ = new QLabel(frame);
-    connect(horizontal_, &QLineEdit::editingFinished, this,
-            [this] { Commit(horizontal_, &ResizePresenter::SetHorizontal); });
-    connect(vertical_, &QLineEdit::editingFinished, this,
-            [this] { Commit(vertical_, &ResizePresenter::SetVertical); });
-    for (QLineEdit* edit : {horizontal_, vertical_})
-        connect(edit, &QLineEdit::textEdited, this, &ResizeDialog::ShowTypedSize);
+    for (const auto& [edit, entry] : {std::pair{horizontal_, ResizePresenter::Entry::Horizontal},
+                                      std::pair{vertical_, ResizePresenter::Entry::Vertical}}) {
+        connect(edit, &QLineEdit::editingFinished, this,
+                [this, edit, entry] { Commit(edit, entry); });
+        connect(edit, &QLineEdit::textEdited, this,
+                [this, entry](const QString& text) { ShowTyped(entry, text); });
+    }
+    auto* proportions = new QCheckBox(Text("chkProportions", "&Keep proportions"), frame);
+    proportions->setObjectName(QStringLiteral("chkProportions"));
+    proportions->setChecked(presenter_.KeepProportions());
+    connect(proportions, &QCheckBox::toggled, this, [this](bool on) {
+        CommitTyped();
+        presenter_.SetKeepProportions(on);
+        Refresh();
+    });
 
     auto* current = new QLabel(QStr(presenter_.CurrentText()), frame);
     current->setObjectName(QStringLiteral("lblCurrent"));
@@ -98,6 +108,7 @@ ResizeDialog::ResizeDialog(Editor& editor, QWidget* parent)
     auto* inner = new QVBoxLayout(frame);
     inner->addLayout(modes);
     inner->addLayout(grid);
+    inner->addWidget(proportions);
     inner->addWidget(current);
     inner->addWidget(newSize_);
 
@@ -119,22 +130,42 @@ ResizeDialog::ResizeDialog(Editor& editor, QWidget* parent)
     Refresh();
 }
 
-bool ResizeDialog::Commit(QLineEdit* entry, bool (ResizePresenter::*set)(std::string_view)) {
-    const bool accepted = (presenter_.*set)(StdStr(entry->text().trimmed()));
+bool ResizeDialog::Commit(QLineEdit* edit, ResizePresenter::Entry entry) {
+    // An entry the user has not typed into since it was shown holds nothing new (and taking
+    // its shown value could move the other entry by a rounding).
+    if (!edit->isModified()) return true;
+    const bool accepted = presenter_.Set(entry, StdStr(edit->text().trimmed()));
     refused_ = refused_ || !accepted;
-    // Only this entry: the other may hold text not yet left.
-    entry->setText(
-        QString::number(entry == horizontal_ ? presenter_.Horizontal() : presenter_.Vertical()));
+    const bool horizontal = entry == ResizePresenter::Entry::Horizontal;
+    edit->setText(QString::number(horizontal ? presenter_.Horizontal() : presenter_.Vertical()));
+    // The other entry shows what it now holds, unless it holds text the user typed and has
+    // not left yet.
+    QLineEdit* other = horizontal ? vertical_ : horizontal_;
+    if (!other->isModified())
+        other->setText(
+            QString::number(horizontal ? presenter_.Vertical() : presenter_.Horizontal()));
     newSize_->setText(QStr(presenter_.NewText()));
     return accepted;
 }
 
-void ResizeDialog::ShowTypedSize() {
-    newSize_->setText(QStr(presenter_.NewTextWhileTyping(StdStr(horizontal_->text().trimmed()),
-                                                         StdStr(vertical_->text().trimmed()))));
+void ResizeDialog::ShowTyped(ResizePresenter::Entry entry, const QString& text) {
+    const ResizePresenter::Typed typed = presenter_.WhileTyping(entry, StdStr(text.trimmed()));
+    // Only the other entry: the one being typed into keeps the user's text.
+    if (presenter_.KeepProportions()) {
+        const bool typingHorizontal = entry == ResizePresenter::Entry::Horizontal;
+        (typingHorizontal ? vertical_ : horizontal_)
+            ->setText(QString::number(typingHorizontal ? typed.vertical : typed.horizontal));
+    }
+    newSize_->setText(QStr(typed.newText));
+}
+
+void ResizeDialog::CommitTyped() {
+    Commit(horizontal_, ResizePresenter::Entry::Horizontal);
+    Commit(vertical_, ResizePresenter::Entry::Vertical);
 }
 
 void ResizeDialog::SetMode(ResizePresenter::Mode mode) {
+    CommitTyped();
     presenter_.SetMode(mode);
     Refresh();
 }
@@ -154,8 +185,7 @@ void ResizeDialog::done(int result) {
     if (result == QDialog::Accepted) {
         // Entries typed but not yet left count too. A refused entry (also one refused as the
         // focus left it for OK, or by the Return that pressed OK) keeps the window open.
-        Commit(horizontal_, &ResizePresenter::SetHorizontal);
-        Commit(vertical_, &ResizePresenter::SetVertical);
+        CommitTyped();
         if (std::exchange(refused_, false)) return;
         editor_.Operations().Resize(presenter_.NewWidth(), presenter_.NewHeight());
     }

@@ -1,7 +1,7 @@
 #pragma once
 // The resize window (frmResize): the new size of the floating selection, else of the image,
-// by percent or in pixels, over the core's ResizePresenter. OK resamples through the
-// editor's Resize command (one undo step).
+// by percent or in pixels, keeping proportions or not, over the core's ResizePresenter. OK
+// resamples through the editor's Resize command (one undo step).
 
 #include <QDialog>
 
@@ -29,9 +29,12 @@ class ResizeDialog final : public QDialog {
   private:
     // An entry as the user leaves it: refused text shows the message and is put back, and
     // the window stays open at the next OK.
-    bool Commit(QLineEdit* entry, bool (ResizePresenter::*set)(std::string_view));
-    // lblNew from what the entries hold while the user types.
-    void ShowTypedSize();
+    bool Commit(QLineEdit* edit, ResizePresenter::Entry entry);
+    // Both entries, where the user typed and has not left yet (a switch of unit or of the
+    // proportions comes after what was typed).
+    void CommitTyped();
+    // lblNew, and the other entry while proportions are kept, as the user types.
+    void ShowTyped(ResizePresenter::Entry entry, const QString& text);
     void SetMode(ResizePresenter::Mode mode);
     // The entries, their units and lblNew from the presenter.
     void Refresh();
