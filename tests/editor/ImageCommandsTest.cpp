@@ -1,26 +1,17 @@
 // The Image menu's operations through the editor: one undo step each, the sides of the
-// image kept by Undo and Repeat, a selection changed alone, and the adjustments' OK and
-// Cancel as undo steps.
+// image kept by Undo and Repeat, a selection changed alone, also by the adjustments.
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
 
 using test::PatternColor;
 
-// One image of width x height at `bits`, pixel (x, y) PatternColor(x, y), opaque.
 IconSet PatternRect(int width, int height, int bits) {
-    IconSet set;
-    const int index = set.AddIcon(width - 1, height - 1, bits);
-    for (int x = 0; x < width; ++x) {
-        for (int y = 0; y < height; ++y) {
-            set.Image(index).Color(x, y) = PatternColor(x, y);
-            set.Image(index).Alpha(x, y) = 255;
-        }
-    }
-    return set;
+    return test::SetOf(test::MakeImage(width, height, bits, PatternColor));
 }
 
 struct ImageOps : ::testing::Test {
@@ -158,23 +149,6 @@ TEST_F(ImageOps, LongOperationsShowTheirStatusAndClearIt) {
     ASSERT_FALSE(f.progress.statuses.empty());
     EXPECT_EQ(f.progress.statuses.front(), "Adding Dropshadow...");
     EXPECT_EQ(f.progress.statuses.back(), "");
-}
-
-TEST_F(ImageOps, AdjustmentsCancelLeavesNoUndoStepAndOkOne) {
-    Open(PatternRect(4, 4, 32));
-    for (const bool ok : {false, true}) {
-        std::unique_ptr<ColorAdjustments> adjustments = f.editor.AdjustColors();
-        ASSERT_NE(adjustments, nullptr);
-        adjustments->SetBrightness(80);
-        EXPECT_FALSE(AsOpened());
-        ok ? adjustments->Ok() : adjustments->Cancel();
-        EXPECT_EQ(AsOpened(), !ok);
-        EXPECT_EQ(f.editor.UndoEnabled(), ok);
-        EXPECT_EQ(f.editor.Document().Unmodified(), !ok);
-    }
-    ASSERT_TRUE(f.editor.Undo());
-    EXPECT_TRUE(AsOpened());
-    EXPECT_TRUE(f.editor.Document().Unmodified());
 }
 
 TEST_F(ImageOps, AdjustmentsOfASelectionLeaveTheRestAlone) {

@@ -10,6 +10,7 @@
 
 #include "WindowFixture.h"
 #include "services/core/TextCatalog.h"
+#include "support/TestImages.h"
 
 namespace iw::test {
 namespace {
@@ -34,18 +35,11 @@ struct ImageWindows : WindowTest {
         QWidget* widget = In<QWidget>(dialog, name);
         QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, widget->rect().center());
     }
-    // Every pixel and the sides as they were when the file was opened.
+    // The sides and both planes as they were when the file was opened.
     bool AsOpened() const {
         const IconImage& now = editor().CurrentImage();
-        if (now.info.Width() != before.info.Width() || now.info.Height() != before.info.Height())
-            return false;
-        for (int x = 0; x < before.info.Width(); ++x) {
-            for (int y = 0; y < before.info.Height(); ++y) {
-                if (now.Color(x, y) != before.Color(x, y) || now.Alpha(x, y) != before.Alpha(x, y))
-                    return false;
-            }
-        }
-        return true;
+        return now.info.Width() == before.info.Width() &&
+               now.info.Height() == before.info.Height() && test::SamePixels(now, before);
     }
     Editor& editor() const { return window->GetEditor(); }
 
