@@ -86,25 +86,5 @@ TEST(UndoHistory, CopiesOnlyTheImagesCorner) {
     EXPECT_EQ(history.RedoPixels(0).Color(16, 0), 0);
 }
 
-TEST(UndoHistory, SnapshotsKeepTheSidesOfTheImage) {
-    UndoHistory history;
-    IconImage image = test::MakeImage(4, 4, 32);
-    image.info.widthMinus1 = 5;  // 6 x 4
-    image.Color(5, 3) = 7;
-    history.AddUndo(image);
-    // A quarter turn: 4 x 6, with a pixel outside the old corner.
-    image.info.widthMinus1 = 3;
-    image.info.heightMinus1 = 5;
-    image.Color(3, 5) = 9;
-    ASSERT_TRUE(history.Undo(image));
-    EXPECT_EQ(image.info.Width(), 6);
-    EXPECT_EQ(image.info.Height(), 4);
-    EXPECT_EQ(image.Color(5, 3), 7);
-    ASSERT_TRUE(history.Repeat(image));
-    EXPECT_EQ(image.info.Width(), 4);
-    EXPECT_EQ(image.info.Height(), 6);
-    EXPECT_EQ(image.Color(3, 5), 9);
-}
-
 }  // namespace
 }  // namespace iw
