@@ -18,46 +18,21 @@
 namespace iw::test {
 namespace {
 
-QWidget* ShownWindow(const QString& name) {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget->objectName() == name) return widget;
-    }
-    return nullptr;
-}
-
-// Runs `act` on the window named `name` once it shows (a dialog or a menu that runs its own
-// event loop), from inside that loop. `done` counts the windows handled.
-void WhenShown(const char* name, std::function<void(QWidget*)> act, int* done = nullptr) {
-    auto* timer = new QTimer(qApp);
-    timer->setInterval(5);
-    QObject::connect(timer, &QTimer::timeout,
-                     [timer, name = QString::fromLatin1(name), act, done, tries = 0]() mutable {
-                         QWidget* shown = ShownWindow(name);
-                         if (!shown && ++tries < 2000) return;
-                         timer->stop();
-                         timer->deleteLater();
-                         ASSERT_NE(shown, nullptr) << name.toStdString();
-                         act(shown);
-                         if (done) ++*done;
-                     });
-    timer->start();
-}
-
 template <typename T = QWidget>
-T* Child(QWidget* window, const char* name) {
-    T* found = window->findChild<T*>(QString::fromLatin1(name));
+T* Child(QWidget& window, const char* name) {
+    T* found = window.findChild<T*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
     return found;
 }
 
 // Fills frmAttributes and presses OK.
-void FillAttributes(QWidget* dialog, const QString& width, const QString& height, int bits) {
+void FillAttributes(QWidget& dialog, const QString& width, const QString& height, int bits) {
     for (auto [name, text] : {std::pair{"txtWidth", width}, std::pair{"txtHeight", height}}) {
         auto* box = Child<QLineEdit>(dialog, name);
         box->selectAll();
         QTest::keyClicks(box, text);
     }
-    for (QRadioButton* option : dialog->findChildren<QRadioButton*>(QStringLiteral("optDepth"))) {
+    for (QRadioButton* option : dialog.findChildren<QRadioButton*>(QStringLiteral("optDepth"))) {
         if (option->property("tag").toInt() == bits) QTest::mouseClick(option, Qt::LeftButton);
     }
     QTest::mouseClick(Child<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
@@ -77,11 +52,20 @@ std::string SizesOf(const IconSet& set) {
 struct ImageListWindows : WindowTest {
     ui::IconListView* List() { return Find<ui::IconListView>("picIcons"); }
 
-    // A right click on row `row` of the icon list, then `act` on its menu.
+    // A right click on row `row` of the icon list, then `act` on its menu once it pops up.
     void ListMenu(int row, std::function<void(QMenu*)> act) {
         int done = 0;
-        WhenShown(
-            "mnuIconList", [&](QWidget* menu) { act(static_cast<QMenu*>(menu)); }, &done);
+        auto* poll = new QTimer;
+        poll->setInterval(5);
+        QObject::connect(poll, &QTimer::timeout, [poll, act, &done] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!menu || menu->objectName() != QLatin1String("mnuIconList")) return;
+            poll->stop();
+            poll->deleteLater();
+            act(menu);
+            ++done;
+        });
+        poll->start();
         ui::IconListView* list = List();
         const QPoint at = list->visualRect(list->model()->index(row, 0)).center();
         QContextMenuEvent event(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));
@@ -103,16 +87,14 @@ TEST_F(ImageListWindows, TheListMenuAddsMovesAndRemovesImages) {
 
     // Add Format: a side out of range is refused by the core and the dialog stays open.
     int added = 0;
-    WhenShown(
-        "frmAttributes",
-        [&](QWidget* dialog) {
-            FillAttributes(dialog, QStringLiteral("300"), QStringLiteral("16"), 8);
-            ASSERT_TRUE(dialog->isVisible());
-            ASSERT_FALSE(presenter.shown.empty());
-            EXPECT_EQ(presenter.shown.back().key, "Integer256");
-            FillAttributes(dialog, QStringLiteral("16"), QStringLiteral("16"), 8);
-        },
-        &added);
+    WhenShown("frmAttributes", [&](QWidget& dialog) {
+        FillAttributes(dialog, QStringLiteral("300"), QStringLiteral("16"), 8);
+        ASSERT_TRUE(dialog.isVisible());
+        ASSERT_FALSE(presenter.shown.empty());
+        EXPECT_EQ(presenter.shown.back().key, "Integer256");
+        FillAttributes(dialog, QStringLiteral("16"), QStringLiteral("16"), 8);
+        ++added;
+    });
     ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuAddFormat"); });
     EXPECT_EQ(added, 1);
     EXPECT_EQ(Sizes(), "32x32x32 16x16x8 ");  // in the standard order, and edited
@@ -145,7 +127,7 @@ TEST_F(ImageListWindows, ChangingAttributesGoesThroughTheQuestionAndTheDepthRule
     editor().Tools().SetForeColor(orange);
     Stroke({{2, 2}});
     presenter.answers = {MessageAnswer::Yes};
-    WhenShown("frmAttributes", [](QWidget* dialog) {
+    WhenShown("frmAttributes", [](QWidget& dialog) {
         FillAttributes(dialog, QStringLiteral("24"), QStringLiteral("20"), 1);
     });
     Trigger("mnuAttributes");
@@ -157,19 +139,16 @@ TEST_F(ImageListWindows, ChangingAttributesGoesThroughTheQuestionAndTheDepthRule
 TEST_F(ImageListWindows, TheStartupTileMakesAnIconOfAnySizeAndDepth) {
     Start();
     int done = 0;
-    WhenShown(
-        "frmStartup",
-        [](QWidget* startup) {
-            WhenShown("frmAttributes", [](QWidget* dialog) {
-                FillAttributes(dialog, QStringLiteral("40"), QStringLiteral("24"), 4);
-            });
-            QTest::mouseClick(Child<QWidget>(startup, "cmdNewSize"), Qt::LeftButton);
-        },
-        &done);
-    window->ShowStartupDialog();
+    WhenShown("frmStartup", [&done](QWidget& startup) {
+        WhenShown("frmAttributes", [](QWidget& dialog) {
+            FillAttributes(dialog, QStringLiteral("40"), QStringLiteral("24"), 4);
+        });
+        QTest::mouseClick(Child<QWidget>(startup, "cmdNewSize"), Qt::LeftButton);
+        ++done;
+    });
+    window->ShowStartupDialog();  // returns once the tile closed the dialog
     EXPECT_EQ(done, 1);
     EXPECT_EQ(Sizes(), "40x24x4 ");
-    EXPECT_EQ(ShownWindow(QStringLiteral("frmStartup")), nullptr);
 }
 
 struct ProgramGroups : ImageListWindows {
@@ -191,9 +170,12 @@ struct ProgramGroups : ImageListWindows {
             delete other.data();
     }
     // Opens the library and answers frmGroups with `act`.
-    void OpenWith(std::function<void(QWidget*)> act) {
+    void OpenWith(std::function<void(QWidget&)> act) {
         int done = 0;
-        WhenShown("frmGroups", std::move(act), &done);
+        WhenShown("frmGroups", [&done, act](QWidget& dialog) {
+            act(dialog);
+            ++done;
+        });
         Trigger("mnuOpen");
         ASSERT_TRUE(QTest::qWaitFor([&] { return done == 1; }));
     }
@@ -227,7 +209,7 @@ TEST_F(ProgramGroups, TheChosenGroupAndLanguageReplaceTheFirst) {
     std::size_t rows = 0;
     for (const ResourceGroup& group : program->Groups())
         rows += group.languages.size();
-    OpenWith([&](QWidget* dialog) {
+    OpenWith([&](QWidget& dialog) {
         auto* groups = Child<QTreeWidget>(dialog, "lstGroups");
         ASSERT_EQ(groups->topLevelItemCount(), static_cast<int>(rows));
         EXPECT_EQ(groups->currentItem(), groups->topLevelItem(0));  // the group shown
@@ -246,7 +228,7 @@ TEST_F(ProgramGroups, TheChosenGroupAndLanguageReplaceTheFirst) {
 TEST_F(ProgramGroups, OpenAllGivesEveryFurtherGroupAWindowOfItsOwn) {
     Start();
     ASSERT_TRUE(program);
-    OpenWith([](QWidget* dialog) {
+    OpenWith([](QWidget& dialog) {
         QTest::mouseClick(Child<QPushButton>(dialog, "cmdOpenAll"), Qt::LeftButton);
     });
     EXPECT_EQ(Sizes(), GroupSizes(0));

@@ -1,5 +1,6 @@
 #include "ui/main/WindowFeatures.h"
 
+#include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
 #include "ui/main/ListWindows.h"
 #include "ui/main/OptionsMenu.h"
@@ -10,6 +11,7 @@ namespace iw::ui {
 void InstallWindowFeatures(MainWindow& window) {
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
+    InstallImageMenu(window);
     InstallListWindows(window);
 }
 
