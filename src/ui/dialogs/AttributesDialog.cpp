@@ -13,7 +13,7 @@
 #include <array>
 
 #include "ui/UiText.h"
-#include "ui/dialogs/DialogParts.h"
+#include "ui/image/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

@@ -3,8 +3,6 @@
 // text) and looked up under the dialog's name, buttons named after their caption's key, and
 // flat multi-column lists.
 
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QStringList>
 #include <QTreeWidget>
@@ -44,22 +42,6 @@ inline QTreeWidget* FlatList(QWidget* parent, const char* name, const QStringLis
     list->setAllColumnsShowFocus(true);
     list->setHeaderLabels(headers);
     return list;
-}
-
-// The shared OK (default) and Cancel buttons, named cmdOK and cmdCancel, accepting and
-// rejecting `dialog`.
-inline QDialogButtonBox* OkCancelButtons(QDialog& dialog) {
-    auto* buttons = new QDialogButtonBox(&dialog);
-    QPushButton* ok =
-        buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    return buttons;
 }
 
 }  // namespace iw::ui
