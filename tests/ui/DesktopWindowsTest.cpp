@@ -1,11 +1,18 @@
-// The desktop windows driven through their widgets: the file types window's boxes and OK.
+// The desktop windows driven through their widgets: the file types window's boxes and OK,
+// the folder icon wizard setting a folder's icon and composing a new one.
 #include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <set>
 
 #include "WindowFixture.h"
+#include "document/io/IconFileReader.h"
+#include "services/core/TextCatalog.h"
 #include "services/desktop/AssociationCheck.h"
 #include "ui/desktop/FileTypeDialog.h"
+#include "ui/desktop/FolderWizard.h"
 
 namespace iw::test {
 namespace {
@@ -32,6 +39,13 @@ T* Child(QWidget& parent, const char* name) {
 
 void Click(QWidget& parent, const char* button) {
     QTest::mouseClick(Child<QPushButton>(parent, button), Qt::LeftButton);
+}
+
+std::vector<std::string> ShownKeys(const ScriptedPresenter& presenter) {
+    std::vector<std::string> keys;
+    for (const MessageBoxRequest& shown : presenter.shown)
+        keys.push_back(shown.key);
+    return keys;
 }
 
 using DesktopWindows = WindowTest;
@@ -65,6 +79,80 @@ TEST_F(DesktopWindows, FileTypesOkStoresTheBoxesAndRegistersOnlyCheckedTypesNotY
     Click(again, "cmdCancel");
     EXPECT_TRUE(settings.GetBool("Settings\\CheckICO", false));
     EXPECT_EQ(associations.registered.size(), 1u);
+}
+
+struct FolderWizardTest : WindowTest {
+    FolderWizardTest()
+        : icons(platform::DesktopShell::Windows,
+                [](const std::string&, const std::vector<std::string>&) {
+                    return platform::ProgramRun{};
+                }) {}
+    FolderIcons icons;
+};
+
+TEST_F(FolderWizardTest, SettingAFolderIconAsksForTheFolderThenWritesItsFilesOnce) {
+    Start();
+    const std::filesystem::path folder = temp / "Pictures";
+    std::filesystem::create_directories(folder);
+    WriteFileBytes(folder / "desktop.ini", {'[', 'O', ']', '\r', '\n', 'k', '=', '1', '\r', '\n'});
+    const std::filesystem::path icon = TestDataPath("interop/icotool-8bpp-48.ico");
+
+    ui::FolderWizard wizard(editor(), icons, window.get());
+    Click(wizard, "cmdNext");  // "Set the icon of a folder" is the first choice
+    ASSERT_EQ(wizard.CurrentPage(), ui::FolderWizard::SetPage);
+    Child<QLineEdit>(wizard, "txtIcon")->setText(QString::fromStdString(icon.string()));
+    Click(wizard, "cmdFinish");
+    EXPECT_EQ(ShownKeys(presenter), std::vector<std::string>{"SelectFolder"});
+    EXPECT_EQ(ReadFileBytes(folder / "desktop.ini").size(), 10u);
+
+    QTest::keyClicks(Child<QLineEdit>(wizard, "txtFolder"),
+                     QString::fromStdString(folder.string()));
+    EXPECT_EQ(Child<QLabel>(wizard, "lblCurrentIcon")->text(), QStringLiteral("[no icon]"));
+    QTest::mouseClick(Child<QCheckBox>(wizard, "chkCopy"), Qt::LeftButton);
+    Click(wizard, "cmdFinish");
+    Click(wizard, "cmdFinish");  // a second run changes nothing
+    EXPECT_EQ(wizard.result(), QDialog::Accepted);
+    EXPECT_EQ(ReadFileBytes(folder / "folder.ico"), ReadFileBytes(icon));
+    const std::vector<std::uint8_t> ini = ReadFileBytes(folder / "desktop.ini");
+    EXPECT_EQ(std::string(ini.begin(), ini.end()),
+              "[O]\r\nk=1\r\n[.ShellClassInfo]\r\nIconFile=folder.ico\r\nIconIndex=0\r\n");
+    EXPECT_EQ(Child<QLabel>(wizard, "lblCurrentIcon")->text(), QStringLiteral("folder.ico"));
+}
+
+TEST_F(FolderWizardTest, ComposingRefusesAFieldOutOfRangeThenMakesTheNewDocument) {
+    Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());
+    ui::FolderWizard wizard(editor(), icons, window.get());
+    QTest::mouseClick(Child<QRadioButton>(wizard, "optCreate"), Qt::LeftButton);
+    Click(wizard, "cmdNext");
+    ASSERT_EQ(wizard.CurrentPage(), ui::FolderWizard::CreatePage);
+
+    const std::array<std::pair<const char*, const char*>, 3> wrong = {
+        {{"txtOffsetX", "49"}, {"txtAngle", "360"}, {"txtDensity", "x"}}};
+    for (const auto& [field, text] : wrong) {
+        auto* edit = Child<QLineEdit>(wizard, field);
+        const QString good = edit->text();
+        edit->setText(QString::fromLatin1(text));
+        Click(wizard, "cmdFinish");
+        edit->setText(good);
+    }
+    EXPECT_EQ(ShownKeys(presenter),
+              (std::vector<std::string>{"Integer48", "Integer359", "Integer256"}));
+    EXPECT_EQ(editor().Set().Count(), 7);  // the opened file is still the document
+
+    Child<QLineEdit>(wizard, "txtAngle")->setText(QStringLiteral("30"));
+    Click(wizard, "cmdFinish");
+    EXPECT_EQ(wizard.result(), QDialog::Accepted);
+    EXPECT_EQ(ShownKeys(presenter).back(), "CreateFolderIcon");
+    EXPECT_FALSE(editor().Document().HasFileName());
+    std::set<std::pair<int, int>> formats;  // (side, bits)
+    for (int i = 0; i < editor().Set().Count(); ++i) {
+        const auto& info = editor().Set().Image(i).info;
+        formats.insert({info.Width(), info.bitCount});
+    }
+    EXPECT_EQ(
+        formats,
+        (std::set<std::pair<int, int>>{
+            {16, 4}, {16, 8}, {16, 32}, {32, 4}, {32, 8}, {32, 32}, {48, 4}, {48, 8}, {48, 32}}));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "ui/desktop/DesktopWindowTexts.h"
 #include "ui/desktop/FileTypeDialog.h"
+#include "ui/desktop/FolderWizard.h"
 #include "ui/desktop/ProgramAssociations.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainWindow.h"
@@ -14,11 +15,39 @@ namespace {
 
 namespace dt = desktop_texts;
 
+// The File menu's commands go above the recent files: after Save As and what follows it
+// before the next separator.
+void MoveAboveRecentFiles(QMenu* file, const std::vector<QAction*>& actions) {
+    const QList<QAction*> items = file->actions();
+    QAction* before = nullptr;
+    bool afterSaveAs = false;
+    for (QAction* item : items) {
+        if (item->objectName() == QLatin1String("mnuSaveAs")) afterSaveAs = true;
+        if (afterSaveAs && item->isSeparator()) {
+            before = item;
+            break;
+        }
+    }
+    if (!before) return;
+    for (QAction* action : actions) {
+        file->removeAction(action);
+        file->insertAction(before, action);
+    }
+    file->insertSeparator(actions.front());
+}
+
 }  // namespace
 
 void InstallDesktopMenu(MainWindow& window) {
     MainActions& actions = *window.Actions();
     Editor& editor = window.GetEditor();
+    QAction* folder =
+        actions.AddCommand(MenuId::File, "mnuFolderIcon", dt::MenuFolderIcon, [&window, &editor] {
+            FolderIcons folderIcons;
+            FolderWizard wizard(editor, folderIcons, &window);
+            wizard.exec();
+        });
+    MoveAboveRecentFiles(actions.MenuFor(MenuId::File), {folder});
     actions.AddCommand(MenuId::Tools, "mnuFileTypes", dt::MenuFileTypes, [&window, &editor] {
         const std::unique_ptr<IFileAssociations> associations = ProgramAssociations();
         FileTypeDialog dialog(editor, *associations, &window);
