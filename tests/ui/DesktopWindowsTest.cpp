@@ -1,8 +1,12 @@
 // The desktop windows driven through their widgets: the file types window's boxes and OK,
-// the folder icon wizard setting a folder's icon and composing a new one.
+// the folder icon wizard setting a folder's icon and composing a new one, and the favicon
+// wizard's Save (with its overwrite question) and Copy.
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <set>
@@ -11,6 +15,7 @@
 #include "document/io/IconFileReader.h"
 #include "services/core/TextCatalog.h"
 #include "services/desktop/AssociationCheck.h"
+#include "ui/desktop/FaviconDialog.h"
 #include "ui/desktop/FileTypeDialog.h"
 #include "ui/desktop/FolderWizard.h"
 
@@ -153,6 +158,42 @@ TEST_F(FolderWizardTest, ComposingRefusesAFieldOutOfRangeThenMakesTheNewDocument
         formats,
         (std::set<std::pair<int, int>>{
             {16, 4}, {16, 8}, {16, 32}, {32, 4}, {32, 8}, {32, 32}, {48, 4}, {48, 8}, {48, 32}}));
+}
+
+TEST_F(DesktopWindows, FaviconSaveAsksBeforeOverwritingAndCopyTakesTheMarkupAsShown) {
+    Start(TestDataPath("interop/icotool-8bpp-48.ico").string());
+    const std::filesystem::path desktop = temp / "Desktop";
+    ui::FaviconDialog dialog(editor(), desktop, window.get());
+    EXPECT_EQ(Child<QPlainTextEdit>(dialog, "txtCode")->toPlainText(),
+              QStringLiteral("<link rel=\"shortcut icon\" href=\"/favicon.ico\"/>"));
+    Click(dialog, "cmdCopy");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringLiteral("<link rel=\"shortcut icon\" href=\"/favicon.ico\"/>"));
+
+    Click(dialog, "cmdSave");
+    ASSERT_EQ(presenter.shown.size(), 1u);
+    EXPECT_EQ(presenter.shown[0].text,
+              "Your icon has been saved as 'favicon.ico' on your Desktop.");
+    const std::filesystem::path favicon = desktop / "favicon.ico";
+    const std::vector<std::uint8_t> first = ReadFileBytes(favicon);
+    EXPECT_FALSE(first.empty());
+
+    editor().Document().NewDocument();  // a different icon; the answer No keeps the saved one
+    presenter.answers = {MessageAnswer::No};
+    Click(dialog, "cmdSave");
+    ASSERT_EQ(presenter.shown.size(), 2u);
+    EXPECT_EQ(presenter.shown[1].text, favicon.string() +
+                                           "\nThis file already exists.  Would you like to "
+                                           "overwrite it?");
+    EXPECT_EQ(ReadFileBytes(favicon), first);
+
+    // With the icons for phones the markup grows by their lines and Save writes them too.
+    QTest::mouseClick(Child<QCheckBox>(dialog, "chkTouchIcons"), Qt::LeftButton);
+    EXPECT_EQ(Child<QPlainTextEdit>(dialog, "txtCode")->toPlainText().count(QLatin1Char('\n')), 3);
+    presenter.answers = {MessageAnswer::Yes};
+    Click(dialog, "cmdSave");
+    for (const char* png : {"apple-touch-icon.png", "icon-192.png", "icon-512.png"})
+        EXPECT_TRUE(std::filesystem::exists(desktop / png)) << png;
 }
 
 }  // namespace

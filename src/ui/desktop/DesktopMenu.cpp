@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "ui/desktop/DesktopWindowTexts.h"
+#include "ui/desktop/FaviconDialog.h"
 #include "ui/desktop/FileTypeDialog.h"
 #include "ui/desktop/FolderWizard.h"
 #include "ui/desktop/ProgramAssociations.h"
@@ -47,7 +48,12 @@ void InstallDesktopMenu(MainWindow& window) {
             FolderWizard wizard(editor, folderIcons, &window);
             wizard.exec();
         });
-    MoveAboveRecentFiles(actions.MenuFor(MenuId::File), {folder});
+    QAction* favicon =
+        actions.AddCommand(MenuId::File, "mnuFavicon", dt::MenuFavicon, [&window, &editor] {
+            FaviconDialog dialog(editor, {}, &window);
+            dialog.exec();
+        });
+    MoveAboveRecentFiles(actions.MenuFor(MenuId::File), {folder, favicon});
     actions.AddCommand(MenuId::Tools, "mnuFileTypes", dt::MenuFileTypes, [&window, &editor] {
         const std::unique_ptr<IFileAssociations> associations = ProgramAssociations();
         FileTypeDialog dialog(editor, *associations, &window);
