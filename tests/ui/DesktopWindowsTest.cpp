@@ -122,6 +122,8 @@ TEST_F(FolderWizardTest, SettingAFolderIconAsksForTheFolderThenWritesItsFilesOnc
     EXPECT_EQ(std::string(ini.begin(), ini.end()),
               "[O]\r\nk=1\r\n[.ShellClassInfo]\r\nIconFile=folder.ico\r\nIconIndex=0\r\n");
     EXPECT_EQ(Child<QLabel>(wizard, "lblCurrentIcon")->text(), QStringLiteral("folder.ico"));
+    EXPECT_EQ(ShownKeys(presenter),
+              (std::vector<std::string>{"SelectFolder", "FolderIconSet", "FolderIconSet"}));
 }
 
 TEST_F(FolderWizardTest, ComposingRefusesAFieldOutOfRangeThenMakesTheNewDocument) {

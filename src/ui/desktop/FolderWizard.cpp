@@ -329,6 +329,8 @@ bool FolderWizard::FinishSet() {
     const FolderIconResult result = folderIcons_.SetIcon(request, editor_.Settings().Messages());
     if (result.status == FolderIconStatus::WriteFailed)
         editor_.Settings().Messages().Show(ft::NotWritten, MessageType::Critical);
+    else if (result.status == FolderIconStatus::Done)
+        editor_.Settings().Messages().Show(ft::Done, MessageType::Information);
     ShowCurrentIcon();
     return result.status == FolderIconStatus::Done;
 }
