@@ -9,12 +9,14 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <set>
 
 #include "WindowFixture.h"
 #include "document/io/IconFileReader.h"
 #include "services/core/TextCatalog.h"
 #include "services/desktop/AssociationCheck.h"
+#include "support/PeBuilder.h"
 #include "ui/desktop/FaviconDialog.h"
 #include "ui/desktop/FileTypeDialog.h"
 #include "ui/desktop/FolderWizard.h"
@@ -124,6 +126,30 @@ TEST_F(FolderWizardTest, SettingAFolderIconAsksForTheFolderThenWritesItsFilesOnc
     EXPECT_EQ(Child<QLabel>(wizard, "lblCurrentIcon")->text(), QStringLiteral("folder.ico"));
     EXPECT_EQ(ShownKeys(presenter),
               (std::vector<std::string>{"SelectFolder", "FolderIconSet", "FolderIconSet"}));
+}
+
+TEST_F(FolderWizardTest, AProgramWithSeveralIconsOffersTheirIndexesAndTheChosenOneIsWritten) {
+    Start();
+    std::vector<PeResourceSpec> resources = IconAndCursorGroups("1", "1", 1033);
+    resources.push_back({14, 7, "", 1033, BuildGroupDirectory({{8, 8, 32, 1}})});
+    const std::filesystem::path library = temp / "icons.dll";
+    WriteFileBytes(library, BuildPeImage(BuildResourceSection(resources)));
+    const std::filesystem::path folder = temp / "Projects";
+    std::filesystem::create_directories(folder);
+
+    ui::FolderWizard wizard(editor(), icons, window.get());
+    Click(wizard, "cmdNext");
+    auto* index = Child<QSpinBox>(wizard, "txtIndex");
+    EXPECT_FALSE(index->isEnabled());
+    Child<QLineEdit>(wizard, "txtFolder")->setText(QString::fromStdString(folder.string()));
+    Child<QLineEdit>(wizard, "txtIcon")->setText(QString::fromStdString(library.string()));
+    ASSERT_TRUE(index->isEnabled());
+    EXPECT_EQ(index->maximum(), 1);  // two icon groups; the cursor group is no icon
+    QTest::keyClick(index, Qt::Key_Up);
+    Click(wizard, "cmdFinish");
+    const std::vector<std::uint8_t> ini = ReadFileBytes(folder / "desktop.ini");
+    EXPECT_EQ(std::string(ini.begin(), ini.end()),
+              "[.ShellClassInfo]\r\nIconFile=" + library.string() + "\r\nIconIndex=1\r\n");
 }
 
 TEST_F(FolderWizardTest, ComposingRefusesAFieldOutOfRangeThenMakesTheNewDocument) {

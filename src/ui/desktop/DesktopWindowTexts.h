@@ -50,6 +50,7 @@ inline constexpr TextId Set{"optSet", kWindow, "&Set the icon of a folder"};
 inline constexpr TextId FolderLabel{"lblFolder", kWindow, "&Folder:"};
 inline constexpr TextId CurrentLabel{"lblCurrent", kWindow, "Current icon:"};
 inline constexpr TextId IconLabel{"lblIcon", kWindow, "&Icon file:"};
+inline constexpr TextId IndexLabel{"lblIndex", kWindow, "Icon inde&x:"};
 inline constexpr TextId Browse{"cmdBrowse", kWindow, "&Browse..."};
 inline constexpr TextId Copy{"chkCopy", kWindow, "C&opy the icon into the folder"};
 inline constexpr TextId IconFilter{"IconFilter", kWindow,

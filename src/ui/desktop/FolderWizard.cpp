@@ -12,12 +12,14 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "document/io/Favicon.h"
 #include "document/io/FolderIconSet.h"
 #include "document/io/PictureLoading.h"
+#include "document/io/ProgramIcons.h"
 #include "services/core/TextCatalog.h"
 #include "services/desktop/DesktopTexts.h"
 #include "ui/UiText.h"
@@ -68,6 +70,21 @@ QPushButton* BrowseButton(const char* name, QWidget* parent) {
     button->setObjectName(QString::fromLatin1(name));
     button->setAutoDefault(false);
     return button;
+}
+
+// A label, a path field and its Browse button in `row` of the grid.
+QLineEdit* AddPathRow(QGridLayout* grid, int row, const TextId& label, const char* field,
+                      const char* button, QPushButton*& browse) {
+    QWidget* page = grid->parentWidget();
+    auto* edit = new QLineEdit(page);
+    edit->setObjectName(QString::fromLatin1(field));
+    auto* caption = Named(new QLabel(Tr(label), page), label);
+    caption->setBuddy(edit);
+    browse = BrowseButton(button, page);
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(edit, row, 1);
+    grid->addWidget(browse, row, 2);
+    return edit;
 }
 
 void SetSwatch(QPushButton* button, Rgba colour) {
@@ -146,14 +163,8 @@ QWidget* FolderWizard::MakeSetPage() {
     page->setObjectName(QStringLiteral("fraSet"));
     auto* grid = new QGridLayout(page);
 
-    folder_ = new QLineEdit(page);
-    folder_->setObjectName(QStringLiteral("txtFolder"));
-    auto* folderLabel = Named(new QLabel(Tr(ft::FolderLabel), page), ft::FolderLabel);
-    folderLabel->setBuddy(folder_);
-    QPushButton* browseFolder = BrowseButton("cmdBrowseFolder", page);
-    grid->addWidget(folderLabel, 0, 0);
-    grid->addWidget(folder_, 0, 1);
-    grid->addWidget(browseFolder, 0, 2);
+    QPushButton* browseFolder = nullptr;
+    folder_ = AddPathRow(grid, 0, ft::FolderLabel, "txtFolder", "cmdBrowseFolder", browseFolder);
 
     currentPicture_ = new QLabel(page);
     currentPicture_->setObjectName(QStringLiteral("picCurrent"));
@@ -170,24 +181,28 @@ QWidget* FolderWizard::MakeSetPage() {
                     Qt::AlignTop);
     grid->addLayout(current, 1, 1, 1, 2);
 
-    icon_ = new QLineEdit(page);
-    icon_->setObjectName(QStringLiteral("txtIcon"));
+    QPushButton* browseIcon = nullptr;
+    icon_ = AddPathRow(grid, 2, ft::IconLabel, "txtIcon", "cmdBrowseIcon", browseIcon);
     if (editor_.Document().HasFileName() && editor_.Document().Mode() == FileMode::ICO)
         icon_->setText(QStr(editor_.Document().FileName()));
-    auto* iconLabel = Named(new QLabel(Tr(ft::IconLabel), page), ft::IconLabel);
-    iconLabel->setBuddy(icon_);
-    QPushButton* browseIcon = BrowseButton("cmdBrowseIcon", page);
-    grid->addWidget(iconLabel, 2, 0);
-    grid->addWidget(icon_, 2, 1);
-    grid->addWidget(browseIcon, 2, 2);
+
+    index_ = new QSpinBox(page);
+    index_->setObjectName(QStringLiteral("txtIndex"));
+    index_->setMinimumWidth(index_->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 32);
+    auto* indexLabel = Named(new QLabel(Tr(ft::IndexLabel), page), ft::IndexLabel);
+    indexLabel->setBuddy(index_);
+    grid->addWidget(indexLabel, 3, 0);
+    grid->addWidget(index_, 3, 1, Qt::AlignLeft);
+    ShowIconCount();
 
     copy_ = Named(new QCheckBox(Tr(ft::Copy), page), ft::Copy);
-    grid->addWidget(copy_, 3, 1, 1, 2);
-    grid->setRowStretch(4, 1);
+    grid->addWidget(copy_, 4, 1, 1, 2);
+    grid->setRowStretch(5, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(1, 320);
 
     connect(folder_, &QLineEdit::textChanged, this, &FolderWizard::ShowCurrentIcon);
+    connect(icon_, &QLineEdit::textChanged, this, &FolderWizard::ShowIconCount);
     connect(browseFolder, &QPushButton::clicked, this, &FolderWizard::BrowseFolder);
     connect(browseIcon, &QPushButton::clicked, this, &FolderWizard::BrowseIcon);
     return page;
@@ -321,10 +336,25 @@ void FolderWizard::ShowCurrentIcon() {
     }
 }
 
+void FolderWizard::ShowIconCount() {
+    // A program or library holds several icons, chosen by their index; an icon file one.
+    int icons = 0;
+    const std::string file = StdStr(icon_->text().trimmed());
+    if (IsProgramFile(file)) {
+        if (const std::optional<ProgramFile> program = ProgramFile::Open(file)) {
+            for (const ResourceGroup& group : program->Groups())
+                icons += group.kind == ResourceGroupKind::Icon ? 1 : 0;
+        }
+    }
+    index_->setRange(0, std::max(icons - 1, 0));
+    index_->setEnabled(icons > 1);
+}
+
 bool FolderWizard::FinishSet() {
     FolderIconRequest request;
     request.folder = PathOf(folder_->text());
     request.icon = PathOf(icon_->text());
+    request.index = index_->value();
     request.copy = copy_->isChecked();
     const FolderIconResult result = folderIcons_.SetIcon(request, editor_.Settings().Messages());
     if (result.status == FolderIconStatus::WriteFailed)

@@ -1,6 +1,7 @@
 #pragma once
 // frmFolder, the folder icon wizard. Page one chooses what to do; "Set the icon of a folder"
-// leads to the folder (with its current icon, or "[no icon]"), the icon file and chkCopy,
+// leads to the folder (with its current icon, or "[no icon]"), the icon file (with the
+// icon's index in a program or library that holds several) and chkCopy,
 // and Finish writes the folder's files; "Create a folder icon" leads to the picture and its
 // overlay on a folder of our own drawing (offset, angle, density, mask colour), previewed at
 // 48, 32 and 16 pixels, and Finish makes it the icon being edited.
@@ -20,6 +21,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QSpinBox;
 class QStackedWidget;
 
 namespace iw::ui {
@@ -44,6 +46,7 @@ class FolderWizard final : public QDialog {
     bool FinishSet();
     bool FinishCreate();
     void ShowCurrentIcon();
+    void ShowIconCount();
     void BrowseFolder();
     void BrowseIcon();
     void BrowsePicture();
@@ -70,6 +73,7 @@ class FolderWizard final : public QDialog {
     QLabel* currentText_ = nullptr;
     QLabel* currentPicture_ = nullptr;
     QLineEdit* icon_ = nullptr;
+    QSpinBox* index_ = nullptr;
     QCheckBox* copy_ = nullptr;
     QRadioButton* useCurrent_ = nullptr;
     QRadioButton* useFile_ = nullptr;
