@@ -53,7 +53,11 @@ void InstallDesktopMenu(MainWindow& window) {
             FaviconDialog dialog(editor, {}, &window);
             dialog.exec();
         });
-    MoveAboveRecentFiles(actions.MenuFor(MenuId::File), {folder, favicon});
+    QMenu* file = actions.MenuFor(MenuId::File);
+    MoveAboveRecentFiles(file, {folder, favicon});
+    // The favicon is the icon being edited: with no image there is nothing to save.
+    QObject::connect(file, &QMenu::aboutToShow, favicon,
+                     [favicon, &editor] { favicon->setEnabled(!editor.Set().Empty()); });
     actions.AddCommand(MenuId::Tools, "mnuFileTypes", dt::MenuFileTypes, [&window, &editor] {
         const std::unique_ptr<IFileAssociations> associations = ProgramAssociations();
         FileTypeDialog dialog(editor, *associations, &window);
