@@ -1,6 +1,7 @@
 #include "ui/main/WindowFeatures.h"
 
 #include "ui/desktop/DesktopMenu.h"
+#include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
 #include "ui/main/OptionsMenu.h"
 
@@ -10,6 +11,7 @@ namespace iw::ui {
 void InstallWindowFeatures(MainWindow& window) {
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
+    InstallImageMenu(window);
     InstallDesktopMenu(window);
 }
 
