@@ -1,5 +1,6 @@
 #include "ui/main/WindowFeatures.h"
 
+#include "ui/desktop/DesktopMenu.h"
 #include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
 #include "ui/main/ListWindows.h"
@@ -13,6 +14,7 @@ void InstallWindowFeatures(MainWindow& window) {
     InstallEditFeatures(window);
     InstallImageMenu(window);
     InstallListWindows(window);
+    InstallDesktopMenu(window);
 }
 
 }  // namespace iw::ui
