@@ -1,17 +1,50 @@
 // The colour picker, the picture import and the conversion wizard, driven through their
 // widgets; the core's state is checked afterwards.
 #include <QDialog>
+#include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
 #include <functional>
 
 #include "WindowFixture.h"
+#include "ui/main/PictureCommands.h"
 
 namespace iw::test {
 namespace {
 
-using ColorAndPictureWindows = WindowTest;
+// The picture commands' file dialogs, answered with preset paths.
+class ScriptedPictureFiles final : public ui::IPictureFiles {
+  public:
+    std::optional<std::string> ChoosePicture() override { return picture; }
+    std::optional<std::string> ChoosePngPath(const std::string& suggested) override {
+        suggestedName = suggested;
+        return pngPath;
+    }
+    std::optional<std::string> ChooseFolder() override { return folder; }
+    std::optional<std::string> picture, pngPath, folder;
+    std::string suggestedName;
+};
+
+struct ColorAndPictureWindows : WindowTest {
+    void Start() {
+        WindowTest::Start();
+        Find<ui::PictureCommands>("PictureCommands")->SetFiles(&pictureFiles);
+    }
+    // A PNG of two halves, red on the left and blue on the right.
+    std::string WritePicture(int width, int height) {
+        QImage image(width, height, QImage::Format_ARGB32);
+        image.fill(Qt::blue);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width / 2; ++x)
+                image.setPixelColor(x, y, Qt::red);
+        const std::string path = (temp / "picture.png").string();
+        EXPECT_TRUE(image.save(QString::fromStdString(path)));
+        return path;
+    }
+    ScriptedPictureFiles pictureFiles;
+};
 
 // Runs `answer` on the modal dialog called `name` as soon as it shows.
 void WhenModal(const char* name, std::function<void(QDialog&)> answer) {
@@ -64,6 +97,38 @@ TEST_F(ColorAndPictureWindows, ColorPickerSetsTheForeColourFromTypedValues) {
     });
     QTest::mouseDClick(Find<QWidget>("picBackcolor"), Qt::LeftButton);
     EXPECT_EQ(editor().Tools().State().BackColor, back);
+}
+
+TEST_F(ColorAndPictureWindows, ImportFloatsThePictureAndExportWritesOneOrEveryImage) {
+    Start();
+    pictureFiles.picture = WritePicture(64, 32);
+    Trigger("mnuImportImage");
+    const IFloatingSelection* floating = editor().Canvas().FloatingSelection();
+    ASSERT_NE(floating, nullptr);
+    EXPECT_EQ(floating->Rect(), (CellRect{0, 8, 32, 16}));
+    EXPECT_EQ(floating->Pixels().Color(3, 8), PackColor(255, 0, 0));
+    EXPECT_EQ(floating->Pixels().Color(28, 8), PackColor(0, 0, 255));
+
+    // A file that is no picture: the core's message, nothing floats in its place.
+    editor().Canvas().DropFloatingSelection();
+    WriteFileBytes(temp / "broken.png", {0x89, 'P', 'N', 'G', 1, 2, 3});
+    pictureFiles.picture = (temp / "broken.png").string();
+    Trigger("mnuImportImage");
+    EXPECT_EQ(editor().Canvas().FloatingSelection(), nullptr);
+    ASSERT_FALSE(presenter.shown.empty());
+    EXPECT_EQ(presenter.shown.back().key, "CorruptFile");
+
+    pictureFiles.pngPath = (temp / "one.png").string();
+    Trigger("mnuExportImage");
+    EXPECT_EQ(pictureFiles.suggestedName, "untitled-32x32.png");
+    const QImage written(QString::fromStdString(*pictureFiles.pngPath));
+    ASSERT_EQ(written.size(), QSize(32, 32));
+    EXPECT_EQ(written.pixelColor(3, 10), QColor(Qt::red));  // the import, dropped in
+
+    std::filesystem::create_directories(temp / "all");
+    pictureFiles.folder = (temp / "all").string();
+    Trigger("mnuExportAll");
+    EXPECT_TRUE(std::filesystem::exists(temp / "all" / "untitled-0.png"));
 }
 
 }  // namespace
