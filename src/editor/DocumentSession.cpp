@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "document/io/ImageConversion.h"
 #include "document/io/ProgramIcons.h"
 #include "editor/BlankIcons.h"
 #include "editor/EditorTexts.h"
@@ -162,6 +163,19 @@ bool DocumentSession::NewFromTemplate(const IconTemplate& source) {
     for (std::size_t i = 1; i < source.entries.size() && !set_.Full(); ++i)
         set_.InsertIcon(set_.Count(), BlankImage(source.entries[i]));
     Replaced(&source.entries);
+    return true;
+}
+
+bool DocumentSession::NewFromPicture(const RgbaBuffer& picture, const IconTemplate& source,
+                                     IProgressSink& progress) {
+    if (picture.Empty() || source.entries.empty() || !Ask()) return false;
+    const std::vector<IconInfo> formats = FormatsOf(source.entries);
+    ConvertPicture(picture, formats, set_, progress);
+    fileName_.clear();
+    programPath_.clear();
+    Replaced(&source.entries);
+    MarkModified();
+    events_.Notify(&IEditorObserver::CaptionChanged);
     return true;
 }
 

@@ -131,5 +131,44 @@ TEST_F(ColorAndPictureWindows, ImportFloatsThePictureAndExportWritesOneOrEveryIm
     EXPECT_TRUE(std::filesystem::exists(temp / "all" / "untitled-0.png"));
 }
 
+TEST_F(ColorAndPictureWindows, TheConversionWizardMakesANewSetOfTheChosenTemplate) {
+    Start();
+    const std::string picture = WritePicture(300, 150);
+    WriteFileBytes(temp / "broken.png", {0x89, 'P', 'N', 'G', 1, 2, 3});
+    WhenModal("frmConvert", [&](QDialog& dialog) {
+        auto* next = dialog.findChild<QPushButton*>("cmdNext");
+        auto* finish = dialog.findChild<QPushButton*>("cmdFinish");
+        EXPECT_FALSE(next->isEnabled());  // no path yet
+        Type(dialog, "txtPicture", QString::fromStdString((temp / "broken.png").string()));
+        Click(dialog, "cmdNext");  // unreadable: the message, and the first step stays
+        EXPECT_EQ(presenter.shown.back().key, "CorruptFile");
+        EXPECT_TRUE(next->isEnabled());
+        EXPECT_FALSE(finish->isEnabled());
+
+        Type(dialog, "txtPicture", QString::fromStdString(picture));
+        Click(dialog, "cmdNext");
+        EXPECT_TRUE(finish->isEnabled());
+        auto* list = dialog.findChild<QListWidget*>("lstTemplates");
+        const auto found = list->findItems("Windows Classic", Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        list->setCurrentItem(found.front());
+        Click(dialog, "cmdFinish");
+    });
+    Trigger("mnuConvert");
+    const IconTemplate* classic = editor().Settings().Templates().Find("Windows Classic");
+    ASSERT_NE(classic, nullptr);
+    ASSERT_EQ(editor().Set().Count(), static_cast<int>(classic->entries.size()));
+    EXPECT_FALSE(editor().Document().Unmodified());
+    // The 2:1 picture sits centred in the first 48 x 48 image, red left and blue right.
+    EXPECT_EQ(editor().Set().Image(0).Color(5, 24), PackColor(255, 0, 0));
+    EXPECT_EQ(editor().Set().Image(0).Color(42, 24), PackColor(0, 0, 255));
+    EXPECT_EQ(editor().Set().Image(0).Color(24, 3), TransparentColor);
+
+    // Cancel leaves the set as it is.
+    WhenModal("frmConvert", [](QDialog& dialog) { Click(dialog, "cmdCancel"); });
+    Trigger("mnuConvert");
+    EXPECT_EQ(editor().Set().Count(), static_cast<int>(classic->entries.size()));
+}
+
 }  // namespace
 }  // namespace iw::test

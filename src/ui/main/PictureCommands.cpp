@@ -10,6 +10,7 @@
 #include "ui/UiText.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainWindow.h"
+#include "ui/pictures/ConvertDialog.h"
 #include "ui/pictures/PictureTexts.h"
 #include "ui/preview/PreviewDialog.h"
 
@@ -91,6 +92,16 @@ bool PictureCommands::ExportAllImages() {
     return result.Ok();
 }
 
+bool PictureCommands::ConvertImage() {
+    Editor& editor = window_.GetEditor();
+    ConvertDialog dialog(
+        editor.Settings().Templates(), editor.Settings().Messages(), decoder_,
+        [this] { return files_->ChoosePicture(); }, &window_);
+    if (dialog.exec() != QDialog::Accepted || !dialog.ChosenTemplate()) return false;
+    return editor.Document().NewFromPicture(dialog.Picture(), *dialog.ChosenTemplate(),
+                                            editor.Progress());
+}
+
 void InstallPictureCommands(MainWindow& window) {
     auto* commands = new PictureCommands(window);
     MainActions& actions = *window.Actions();
@@ -124,6 +135,9 @@ void InstallPictureCommands(MainWindow& window) {
     }
     file->insertSeparator(before);
     file->insertMenu(before, importExport);
+
+    actions.AddCommand(MenuId::Tools, "mnuConvert", pt::Convert,
+                       [commands] { commands->ConvertImage(); });
 
     actions.MenuFor(MenuId::View)->addSeparator();
     actions.AddCommand(MenuId::View, "mnuPreview", pt::Preview,

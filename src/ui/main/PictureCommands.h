@@ -1,6 +1,7 @@
 #pragma once
 // The commands of the colour and picture windows: View > Preview (frmPreview), File >
-// Import and Export (Import Image, Export Image, Export All Images). One PictureCommands object, a
+// Import and Export (Import Image, Export Image, Export All Images) and Tools > Convert an
+// Image (the conversion wizard, frmConvert). One PictureCommands object, a
 // child of the main window called "PictureCommands", holds them and the file dialogs they ask
 // through.
 
@@ -30,6 +31,9 @@ class PictureCommands final : public QObject {
     // The current image as a PNG file, and every image into a folder.
     bool ExportImage();
     bool ExportAllImages();
+    // The conversion wizard; Finish makes a new untitled set from the picture with the
+    // chosen template's formats (after the question to save the present one).
+    bool ConvertImage();
 
   private:
     MainWindow& window_;
