@@ -137,9 +137,6 @@ QWidget* ConvertDialog::MakePictureStep() {
         picture_ = RgbaBuffer();
         ShowPicture();
     });
-    connect(path_, &QLineEdit::returnPressed, this, [this] {
-        if (ReadPicture()) ShowPicture();
-    });
 
     auto* row = new QHBoxLayout;
     row->addWidget(path_, 1);

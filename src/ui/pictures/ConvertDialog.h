@@ -1,8 +1,8 @@
 #pragma once
 // frmConvert: "Convert an Image", a wizard of two steps. First the picture: a path typed
-// or browsed; Next reads it (a file that cannot be read shows the core's message and stays
-// on the step) and shows it with its size. Then the template whose formats the new set
-// gets, with those formats listed beside it. Finish leaves the picture and the template
+// or browsed; Next (or Return) reads it (a file that cannot be read shows the core's
+// message and stays on the step) and shows it with its size. Then the template whose
+// formats the new set gets, with those formats listed beside it. Finish leaves the picture and the template
 // for the caller, which makes the set.
 
 #include <QDialog>
