@@ -60,6 +60,8 @@ inline constexpr TextId Green = T("lblGreen", "G");
 inline constexpr TextId Blue = T("lblBlue", "B");
 inline constexpr TextId Alpha = T("lblAlpha", "A");
 inline constexpr TextId ZoomText = T("lblZoom", "Zoom %d:1");
+inline constexpr TextId EditRequestHint =
+    T("lblEditRequestHint", "When you are done, save the icon and close Iconwright to return.");
 inline constexpr TextId DroppedSeveral =
     T("DroppedSeveral", "Several files were dropped; the first one was opened.");
 

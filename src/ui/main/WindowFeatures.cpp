@@ -1,8 +1,10 @@
 #include "ui/main/WindowFeatures.h"
 
-#include "ui/main/PictureCommands.h"
-#include "ui/main/OptionsMenu.h"
+#include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
+#include "ui/main/ListWindows.h"
+#include "ui/main/OptionsMenu.h"
+#include "ui/main/PictureCommands.h"
 
 namespace iw::ui {
 
@@ -11,6 +13,8 @@ void InstallWindowFeatures(MainWindow& window) {
     InstallPictureCommands(window);
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
+    InstallImageMenu(window);
+    InstallListWindows(window);
 }
 
 }  // namespace iw::ui
