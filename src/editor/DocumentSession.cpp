@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "document/io/ImageConversion.h"
 #include "document/io/ProgramIcons.h"
 #include "editor/BlankIcons.h"
 #include "editor/EditorTexts.h"
@@ -178,6 +179,19 @@ bool DocumentSession::NewFolderIcon(const IconSet& made) {
     programPath_.clear();
     Replaced();
     settings_.Messages().Show(texts::CreateFolderIcon, MessageType::Information);
+    return true;
+}
+
+bool DocumentSession::NewFromPicture(const RgbaBuffer& picture, const IconTemplate& source,
+                                     IProgressSink& progress) {
+    if (picture.Empty() || source.entries.empty() || !Ask()) return false;
+    const std::vector<IconInfo> formats = FormatsOf(source.entries);
+    ConvertPicture(picture, formats, set_, progress);
+    fileName_.clear();
+    programPath_.clear();
+    Replaced(&source.entries);
+    MarkModified();
+    events_.Notify(&IEditorObserver::CaptionChanged);
     return true;
 }
 

@@ -16,6 +16,7 @@
 #include "editor/ImageAttributes.h"
 #include "editor/ProgramSettings.h"
 #include "editor/UndoHistory.h"
+#include "imaging/RgbaBuffer.h"
 #include "services/core/Texts.h"
 #include "services/desktop/Template.h"
 
@@ -57,6 +58,12 @@ class DocumentSession {
     // The folder icon wizard made `made`: after asking to save, it becomes the new untitled
     // icon, then "CreateFolderIcon" tells how to put it on a folder. An empty set is refused.
     bool NewFolderIcon(const IconSet& made);
+    // "Convert an Image": asks to save, then a new untitled set with one image for each of
+    // the template's formats, each resampled from `picture`. The new set is marked modified
+    // (it exists nowhere else yet). False, changing nothing, for an empty picture or
+    // template or when the question is cancelled.
+    bool NewFromPicture(const RgbaBuffer& picture, const IconTemplate& source,
+                        IProgressSink& progress);
     // A file that does not exist shows "This file could not be found." and changes nothing.
     // A file that cannot be read leaves a new untitled set.
     bool OpenDocument(const std::string& path);

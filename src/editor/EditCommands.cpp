@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "document/io/PictureImport.h"
 #include "document/model/IconSet.h"
 #include "editor/FloatingPicture.h"
 #include "editor/PixelPlot.h"
+#include "imaging/Resampler.h"
 #include "services/core/TextCatalog.h"
 
 namespace iw {
@@ -85,6 +87,24 @@ bool EditCommands::PlaceText(const RgbaPicture& rendered) {
     const RgbaPicture fitted = FitToIconSide(rendered);
     return PasteFitted(fitted, {std::max(0, (ImageWidth(*image) - fitted.width) / 2),
                                 std::max(0, (ImageHeight(*image) - fitted.height) / 2)});
+}
+
+bool EditCommands::ImportPicture(const RgbaBuffer& picture, IProgressSink& progress) {
+    const IconImage* image = host_.EditedImage();
+    if (!image || picture.Empty() || !ConfirmLargeImport(picture, messages_)) return false;
+    progress.SetStatus(GetText(texts::ImportingImage));
+    progress.Yield();
+    const PixelSize size =
+        FitSize(picture.Width(), picture.Height(), ImageWidth(*image), ImageHeight(*image), false);
+    const RgbaBuffer fitted = size == PixelSize{picture.Width(), picture.Height()}
+                                  ? picture
+                                  : Resample(picture, size.width, size.height);
+    RgbaPicture floating{fitted.Width(), fitted.Height(), {}};
+    floating.rgba.assign(fitted.Bytes().begin(), fitted.Bytes().end());
+    const bool placed = PasteFitted(
+        floating, {(ImageWidth(*image) - size.width) / 2, (ImageHeight(*image) - size.height) / 2});
+    progress.SetStatus("");
+    return placed;
 }
 
 }  // namespace iw

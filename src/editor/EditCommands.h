@@ -11,7 +11,9 @@
 
 #include "editor/CanvasController.h"
 #include "editor/Clipboard.h"
+#include "imaging/RgbaBuffer.h"
 #include "services/core/MessageService.h"
+#include "services/core/UserInterface.h"
 
 namespace iw {
 
@@ -42,6 +44,12 @@ class EditCommands {
     // Text rendered by the window (in ForeColor with the current alpha) floats centred on
     // the image, or from its top-left corner when it is larger. False for an empty picture.
     bool PlaceText(const RgbaPicture& rendered);
+    // A picture read from a file (Import Image) floats centred on the image, scaled down
+    // with the resampler to fit inside it (aspect kept; a smaller picture keeps its size).
+    // One larger than 500 x 500 asks "ImportPicture" first. The status bar shows
+    // "Importing Image..." while it works. False when there is no image, the picture is
+    // empty or the user declines.
+    bool ImportPicture(const RgbaBuffer& picture, IProgressSink& progress);
 
   private:
     ICanvasHost& host_;

@@ -122,6 +122,8 @@ class Editor final : private ICanvasHost,
     InspectorController& Inspector() { return inspector_; }
     const InspectorController& Inspector() const { return inspector_; }
     ProgramSettings& Settings() { return settings_; }
+    // The status bar and progress bar, for the windows' own long work (import, conversion).
+    IProgressSink& Progress() { return services_.progress; }
     const ProgramSettings& Settings() const { return settings_; }
 
   private:

@@ -123,5 +123,34 @@ TEST_F(Clipboard, TextFloatsCentredOrFromTheTopLeftAndSwitchesToSelect) {
     EXPECT_EQ(Floating()->Rect(), (CellRect{0, 6, 40, 3}));
 }
 
+TEST_F(Clipboard, AnImportedPictureFloatsCentredScaledDownToFitAfterTheLargeQuestion) {
+    Open(32, 24);
+    RgbaBuffer wide(640, 320);  // red left half, blue right half
+    for (int y = 0; y < 320; ++y)
+        for (int x = 0; x < 640; ++x)
+            wide.At(x, y) = x < 320 ? Rgba{255, 0, 0, 255} : Rgba{0, 0, 255, 255};
+    test::RecordingProgress progress;
+    f.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(edit.ImportPicture(wide, progress));
+    ASSERT_EQ(f.presenter.shown.size(), 1u);
+    EXPECT_EQ(f.presenter.shown[0].key, "ImportPicture");
+    EXPECT_EQ(Floating(), nullptr);
+
+    f.presenter.answer = MessageAnswer::Yes;
+    ASSERT_TRUE(edit.ImportPicture(wide, progress));
+    EXPECT_EQ(progress.statuses, (std::vector<std::string>{"Importing Image...", ""}));
+    EXPECT_EQ(Floating()->Rect(), (CellRect{0, 8, 32, 16}));  // 640 x 320 into 32 x 32
+    ASSERT_TRUE(Enter());
+    EXPECT_EQ(At(2, 12), PackColor(255, 0, 0));
+    EXPECT_EQ(At(29, 12), PackColor(0, 0, 255));
+    EXPECT_EQ(At(10, 3), PatternColor(10, 3));  // above the picture: untouched
+
+    // A small picture keeps its size; no question below 500 x 500.
+    ASSERT_TRUE(edit.ImportPicture(RgbaBuffer(5, 3), progress));
+    EXPECT_EQ(f.presenter.shown.size(), 2u);
+    EXPECT_EQ(Floating()->Rect(), (CellRect{13, 14, 5, 3}));
+    EXPECT_FALSE(edit.ImportPicture(RgbaBuffer(), progress));
+}
+
 }  // namespace
 }  // namespace iw

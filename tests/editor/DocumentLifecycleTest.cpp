@@ -247,6 +247,39 @@ TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     EXPECT_NE(editor.Settings().Templates().Find("Tiny"), nullptr);
 }
 
+TEST_F(Lifecycle, APictureConvertsIntoAModifiedUntitledSetOfTheTemplatesFormats) {
+    Start();
+    const IconTemplate* classic = editor.Settings().Templates().Find("Windows Classic");
+    ASSERT_NE(classic, nullptr);
+    RgbaBuffer logo(120, 60);
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 120; ++x)
+            logo.At(x, y) = Rgba{200, 10, 10, 255};
+    f.Draw({3, 3});  // unsaved changes: the question comes first
+
+    f.presenter.answer = MessageAnswer::Cancel;
+    EXPECT_FALSE(editor.Document().NewFromPicture(logo, *classic, f.progress));
+    EXPECT_EQ(editor.Set().Count(), 1);
+    EXPECT_EQ(f.presenter.shown.back().key, "SaveUntitled");
+    EXPECT_FALSE(editor.Document().NewFromPicture(RgbaBuffer(), *classic, f.progress));
+
+    f.presenter.answer = MessageAnswer::No;
+    ASSERT_TRUE(editor.Document().NewFromPicture(logo, *classic, f.progress));
+    ASSERT_EQ(editor.Set().Count(), static_cast<int>(classic->entries.size()));
+    for (int i = 0; i < editor.Set().Count(); ++i) {
+        EXPECT_EQ(editor.Set().Info(i).Width(), classic->entries[i].Width());
+        EXPECT_EQ(editor.Set().Info(i).bitCount, classic->entries[i].bits);
+    }
+    EXPECT_EQ(editor.CurrentIcon(), 0);
+    EXPECT_FALSE(editor.Document().HasFileName());
+    EXPECT_FALSE(editor.Document().Unmodified());
+    EXPECT_FALSE(editor.UndoEnabled());
+    // A 2:1 picture in a 48 x 48 image: centred rows 12..35, transparent above.
+    const IconImage& first = editor.Set().Image(0);
+    EXPECT_EQ(first.Color(24, 24), PackColor(200, 10, 10));
+    EXPECT_EQ(first.Color(24, 5), TransparentColor);
+}
+
 TEST_F(Lifecycle, ShutdownWritesTheStores) {
     Start();
     editor.View().NormalZoom();

@@ -1,5 +1,8 @@
 #include "document/io/PictureImport.h"
 
+#include <algorithm>
+#include <tuple>
+
 #include "document/io/IcoLayout.h"
 #include "imaging/ImageRgbaPixels.h"
 #include "imaging/Resampler.h"
@@ -56,6 +59,23 @@ int BestImage(const IconSet& set, int side) {
         const int area = info.Width() * info.Height();
         const int bestArea = b.Width() * b.Height();
         if (area > bestArea || (area == bestArea && info.bitCount > b.bitCount)) best = i;
+    }
+    return best;
+}
+
+int BestFitImage(const IconSet& set, int side) {
+    // A rank that orders the candidates: exact first, then larger ones from the smallest
+    // up, then smaller ones from the largest down; depth breaks ties.
+    const auto rank = [side](const IconInfo& info) {
+        const int longer = std::max(info.Width(), info.Height());
+        const bool exact = info.Width() == side && info.Height() == side;
+        const int group = exact ? 0 : (longer >= side ? 1 : 2);
+        const int distance = group == 2 ? side - longer : longer - side;
+        return std::tuple(group, distance, -static_cast<int>(info.bitCount));
+    };
+    int best = -1;
+    for (int i = 0; i < set.Count(); ++i) {
+        if (best < 0 || rank(set.Info(i)) < rank(set.Info(best))) best = i;
     }
     return best;
 }

@@ -27,6 +27,12 @@ int AddPictureImage(IconSet& set, const c32bppDIB& picture, int bitCount, bool p
 // with `side` the deepest of its side x side images; -1 when there is none.
 int BestImage(const IconSet& set, int side = 0);
 
+// The image a desktop would show where it draws the icon side x side (a file manager's
+// large icons, a task bar, a title bar): an image of exactly that size; else the smallest
+// larger one, scaled down; else the largest, scaled up. Sizes compare by the longer side;
+// among images of one size the deepest wins, then the first. -1 for an empty set.
+int BestFitImage(const IconSet& set, int side);
+
 // Pictures above this on either side make the import ask first.
 inline constexpr int kLargeImportSide = 500;
 

@@ -1,6 +1,5 @@
 #include "ui/main/ColorBox.h"
 
-#include <QColorDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +8,7 @@
 
 #include "editor/NumberText.h"
 #include "ui/UiText.h"
+#include "ui/colors/ColorsDialog.h"
 #include "ui/main/MainTexts.h"
 #include "ui/widgets/ColorSwatch.h"
 
@@ -19,11 +19,6 @@ namespace mt = main_texts;
 
 constexpr int kSwatch = 30;  // logical pixels
 constexpr int kOverlap = 12;
-
-QColor ToQColor(PackedColor color, int alpha) {
-    if (IsMarker(color)) return QColor(0, 0, 0, alpha);
-    return QColor(RedOf(color), GreenOf(color), BlueOf(color), alpha);
-}
 
 }  // namespace
 
@@ -45,8 +40,8 @@ ColorBox::ColorBox(Editor& editor, QWidget* parent) : QWidget(parent), editor_(e
     switchColors->setAutoRaise(true);
     switchColors->setToolTip(Tr(mt::SwitchColors));
     switchColors->setGeometry(2 * kSwatch - kOverlap, 0, 22, 22);
-    connect(fore_, &ColorSwatch::Clicked, this, &ColorBox::ChooseForeColor);
-    connect(back_, &ColorSwatch::Clicked, this, &ColorBox::ChooseBackColor);
+    connect(fore_, &ColorSwatch::DoubleClicked, this, &ColorBox::ChooseForeColor);
+    connect(back_, &ColorSwatch::DoubleClicked, this, &ColorBox::ChooseBackColor);
     connect(switchColors, &QToolButton::clicked, this, [this] { editor_.Tools().SwitchColors(); });
 
     auto* grid = new QGridLayout(this);
@@ -126,19 +121,16 @@ void ColorBox::EntryFinished(const ChannelControls& controls) {
 
 void ColorBox::ChooseForeColor() {
     const ToolState& state = editor_.Tools().State();
-    const QColor chosen =
-        QColorDialog::getColor(ToQColor(state.ForeColor, state.CurrentAlpha), this,
-                               Tr(mt::ChooseFore), QColorDialog::ShowAlphaChannel);
-    if (!chosen.isValid()) return;
-    editor_.Tools().SetForeColor(PackColor(chosen.red(), chosen.green(), chosen.blue()));
-    editor_.Tools().SetAlpha(chosen.alpha());
+    ColorsDialog dialog(state.ForeColor, state.CurrentAlpha, true, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    editor_.Tools().SetForeColor(dialog.Picker().Color());
+    editor_.Tools().SetAlpha(dialog.Picker().Alpha());
 }
 
 void ColorBox::ChooseBackColor() {
-    const QColor chosen = QColorDialog::getColor(ToQColor(editor_.Tools().State().BackColor, 255),
-                                                 this, Tr(mt::ChooseBack));
-    if (!chosen.isValid()) return;
-    editor_.Tools().SetBackColor(PackColor(chosen.red(), chosen.green(), chosen.blue()));
+    ColorsDialog dialog(editor_.Tools().State().BackColor, 255, false, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    editor_.Tools().SetBackColor(dialog.Picker().Color());
 }
 
 }  // namespace iw::ui

@@ -1,6 +1,7 @@
 #pragma once
-// The colour area under the tools: picForeColor and picBackcolor (a click opens the colour
-// dialog), picSwitchColors, and the red, green, blue and alpha sliders with their boxes.
+// The colour area under the tools: picForeColor and picBackcolor (a double-click opens the
+// colour picker frmColors), picSwitchColors, and the red, green, blue and alpha sliders
+// with their boxes.
 
 #include <QWidget>
 #include <array>

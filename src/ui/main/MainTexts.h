@@ -52,15 +52,13 @@ inline constexpr TextId ToolsCaption = T("tbrTools", "Tools");
 inline constexpr TextId PreviewCaption = T("fraPreview", "Preview");
 inline constexpr TextId IconsCaption = T("fraIcons", "Images");
 inline constexpr TextId InspectorCaption = T("fraInspector", "Icon Inspector");
-inline constexpr TextId ForeColor = T("picForeColor", "Foreground colour (click to choose)");
-inline constexpr TextId BackColor = T("picBackcolor", "Background colour (click to choose)");
+inline constexpr TextId ForeColor = T("picForeColor", "Foreground colour (double-click to choose)");
+inline constexpr TextId BackColor = T("picBackcolor", "Background colour (double-click to choose)");
 inline constexpr TextId SwitchColors = T("picSwitchColors", "Switch colours");
 inline constexpr TextId Red = T("lblRed", "R");
 inline constexpr TextId Green = T("lblGreen", "G");
 inline constexpr TextId Blue = T("lblBlue", "B");
 inline constexpr TextId Alpha = T("lblAlpha", "A");
-inline constexpr TextId ChooseFore = T("dlgForeColor", "Foreground Colour");
-inline constexpr TextId ChooseBack = T("dlgBackColor", "Background Colour");
 inline constexpr TextId ZoomText = T("lblZoom", "Zoom %d:1");
 inline constexpr TextId EditRequestHint =
     T("lblEditRequestHint", "When you are done, save the icon and close Iconwright to return.");

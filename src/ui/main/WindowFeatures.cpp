@@ -5,11 +5,13 @@
 #include "ui/main/EditFeatures.h"
 #include "ui/main/ListWindows.h"
 #include "ui/main/OptionsMenu.h"
+#include "ui/main/PictureCommands.h"
 
 namespace iw::ui {
 
 // One line per window, in the order their commands should appear in shared menus.
 void InstallWindowFeatures(MainWindow& window) {
+    InstallPictureCommands(window);
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
     InstallImageMenu(window);

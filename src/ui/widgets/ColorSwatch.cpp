@@ -59,4 +59,8 @@ void ColorSwatch::mouseReleaseEvent(QMouseEvent* event) {
         emit Clicked();
 }
 
+void ColorSwatch::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) emit DoubleClicked();
+}
+
 }  // namespace iw::ui

@@ -26,10 +26,12 @@ class ColorSwatch final : public QWidget {
 
   signals:
     void Clicked();
+    void DoubleClicked();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
     PackedColor color_ = 0;

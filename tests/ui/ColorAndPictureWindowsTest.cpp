@@ -1,0 +1,174 @@
+// The colour picker, the picture import and the conversion wizard, driven through their
+// widgets; the core's state is checked afterwards.
+#include <QDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+
+#include "WindowFixture.h"
+#include "ui/main/PictureCommands.h"
+
+namespace iw::test {
+namespace {
+
+// The picture commands' file dialogs, answered with preset paths.
+class ScriptedPictureFiles final : public ui::IPictureFiles {
+  public:
+    std::optional<std::string> ChoosePicture() override { return picture; }
+    std::optional<std::string> ChoosePngPath(const std::string& suggested) override {
+        suggestedName = suggested;
+        return pngPath;
+    }
+    std::optional<std::string> ChooseFolder() override { return folder; }
+    std::optional<std::string> picture, pngPath, folder;
+    std::string suggestedName;
+};
+
+struct ColorAndPictureWindows : WindowTest {
+    void Start() {
+        WindowTest::Start();
+        Find<ui::PictureCommands>("PictureCommands")->SetFiles(&pictureFiles);
+    }
+    // A PNG of two halves, red on the left and blue on the right.
+    std::string WritePicture(int width, int height) {
+        QImage image(width, height, QImage::Format_ARGB32);
+        image.fill(Qt::blue);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width / 2; ++x)
+                image.setPixelColor(x, y, Qt::red);
+        const std::string path = (temp / "picture.png").string();
+        EXPECT_TRUE(image.save(QString::fromStdString(path)));
+        return path;
+    }
+    ScriptedPictureFiles pictureFiles;
+};
+
+// Runs `answer` on the modal dialog called `name` as soon as it shows.
+void WhenModal(const char* name, std::function<void(QDialog&)> answer) {
+    QTimer::singleShot(0, [name, answer = std::move(answer)] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        ASSERT_EQ(dialog->objectName(), QLatin1String(name));
+        answer(*dialog);
+    });
+}
+
+void Type(QDialog& dialog, const char* box, const QString& text) {
+    auto* edit = dialog.findChild<QLineEdit*>(QLatin1String(box));
+    ASSERT_NE(edit, nullptr) << box;
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+void Click(QDialog& dialog, const char* button) {
+    auto* found = dialog.findChild<QPushButton*>(QLatin1String(button));
+    ASSERT_NE(found, nullptr) << button;
+    QTest::mouseClick(found, Qt::LeftButton);
+}
+
+TEST_F(ColorAndPictureWindows, ColorPickerSetsTheForeColourFromTypedValues) {
+    Start();
+    WhenModal("frmColors", [](QDialog& dialog) {
+        Type(dialog, "txtRed", "12");
+        Type(dialog, "txtGreen", "300");  // refused: green stays
+        Type(dialog, "txtBlue", "200");
+        Type(dialog, "txtAlpha", "99");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("txtLong")->text(),
+                  QString::number(12 + GreenOf(0) * 256 + 200 * 65536));
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("txtGreen")->text(), "0");
+        Click(dialog, "cmdOK");
+    });
+    editor().Tools().SetForeColor(0);
+    QTest::mouseDClick(Find<QWidget>("picForeColor"), Qt::LeftButton);
+    EXPECT_EQ(editor().Tools().State().ForeColor, PackColor(12, 0, 200));
+    EXPECT_EQ(editor().Tools().State().CurrentAlpha, 99);
+
+    // The background's picker offers no alpha, and Cancel keeps the colour.
+    const PackedColor back = editor().Tools().State().BackColor;
+    WhenModal("frmColors", [](QDialog& dialog) {
+        EXPECT_FALSE(dialog.findChild<QLineEdit*>("txtAlpha")->isVisible());
+        Type(dialog, "txtHex", "#00FF00");
+        Click(dialog, "cmdCancel");
+    });
+    QTest::mouseDClick(Find<QWidget>("picBackcolor"), Qt::LeftButton);
+    EXPECT_EQ(editor().Tools().State().BackColor, back);
+}
+
+TEST_F(ColorAndPictureWindows, ImportFloatsThePictureAndExportWritesOneOrEveryImage) {
+    Start();
+    pictureFiles.picture = WritePicture(64, 32);
+    Trigger("mnuImportImage");
+    const IFloatingSelection* floating = editor().Canvas().FloatingSelection();
+    ASSERT_NE(floating, nullptr);
+    EXPECT_EQ(floating->Rect(), (CellRect{0, 8, 32, 16}));
+    EXPECT_EQ(floating->Pixels().Color(3, 8), PackColor(255, 0, 0));
+    EXPECT_EQ(floating->Pixels().Color(28, 8), PackColor(0, 0, 255));
+
+    // A file that is no picture: the core's message, nothing floats in its place.
+    editor().Canvas().DropFloatingSelection();
+    WriteFileBytes(temp / "broken.png", {0x89, 'P', 'N', 'G', 1, 2, 3});
+    pictureFiles.picture = (temp / "broken.png").string();
+    Trigger("mnuImportImage");
+    EXPECT_EQ(editor().Canvas().FloatingSelection(), nullptr);
+    ASSERT_FALSE(presenter.shown.empty());
+    EXPECT_EQ(presenter.shown.back().key, "CorruptFile");
+
+    pictureFiles.pngPath = (temp / "one.png").string();
+    Trigger("mnuExportImage");
+    EXPECT_EQ(pictureFiles.suggestedName, "untitled-32x32.png");
+    const QImage written(QString::fromStdString(*pictureFiles.pngPath));
+    ASSERT_EQ(written.size(), QSize(32, 32));
+    EXPECT_EQ(written.pixelColor(3, 10), QColor(Qt::red));  // the import, dropped in
+
+    std::filesystem::create_directories(temp / "all");
+    pictureFiles.folder = (temp / "all").string();
+    Trigger("mnuExportAll");
+    EXPECT_TRUE(std::filesystem::exists(temp / "all" / "untitled-0.png"));
+}
+
+TEST_F(ColorAndPictureWindows, TheConversionWizardMakesANewSetOfTheChosenTemplate) {
+    Start();
+    const std::string picture = WritePicture(300, 150);
+    WriteFileBytes(temp / "broken.png", {0x89, 'P', 'N', 'G', 1, 2, 3});
+    WhenModal("frmConvert", [&](QDialog& dialog) {
+        auto* next = dialog.findChild<QPushButton*>("cmdNext");
+        auto* finish = dialog.findChild<QPushButton*>("cmdFinish");
+        EXPECT_FALSE(next->isEnabled());  // no path yet
+        Type(dialog, "txtPicture", QString::fromStdString((temp / "broken.png").string()));
+        Click(dialog, "cmdNext");  // unreadable: the message, and the first step stays
+        EXPECT_EQ(presenter.shown.back().key, "CorruptFile");
+        EXPECT_TRUE(next->isEnabled());
+        EXPECT_FALSE(finish->isEnabled());
+
+        Type(dialog, "txtPicture", QString::fromStdString(picture));
+        Click(dialog, "cmdNext");
+        EXPECT_TRUE(finish->isEnabled());
+        auto* list = dialog.findChild<QListWidget*>("lstTemplates");
+        const auto found = list->findItems("Windows Classic", Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        list->setCurrentItem(found.front());
+        Click(dialog, "cmdFinish");
+    });
+    Trigger("mnuConvert");
+    const IconTemplate* classic = editor().Settings().Templates().Find("Windows Classic");
+    ASSERT_NE(classic, nullptr);
+    ASSERT_EQ(editor().Set().Count(), static_cast<int>(classic->entries.size()));
+    EXPECT_FALSE(editor().Document().Unmodified());
+    // The 2:1 picture sits centred in the first 48 x 48 image, red left and blue right.
+    EXPECT_EQ(editor().Set().Image(0).Color(5, 24), PackColor(255, 0, 0));
+    EXPECT_EQ(editor().Set().Image(0).Color(42, 24), PackColor(0, 0, 255));
+    EXPECT_EQ(editor().Set().Image(0).Color(24, 3), TransparentColor);
+
+    // Cancel leaves the set as it is.
+    WhenModal("frmConvert", [](QDialog& dialog) { Click(dialog, "cmdCancel"); });
+    Trigger("mnuConvert");
+    EXPECT_EQ(editor().Set().Count(), static_cast<int>(classic->entries.size()));
+}
+
+}  // namespace
+}  // namespace iw::test
