@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "document/io/ProgramIcons.h"
+#include "editor/AnimationCommands.h"
 #include "editor/BlankIcons.h"
 #include "editor/EditorTexts.h"
 #include "editor/IconFormats.h"
@@ -207,6 +208,7 @@ bool DocumentSession::OpenFile(const std::string& path, const std::optional<Grou
     programPath_ = program ? path : std::string();
     settings_.AddRecentFile(path);
     Replaced();
+    ShowAnimationNotices(set_, settings_.Messages());
     return true;
 }
 
