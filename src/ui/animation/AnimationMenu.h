@@ -1,0 +1,11 @@
+#pragma once
+// The animated cursor's commands in the main window: Sequence Editor (mode menu and tbrMain),
+// shown in animated cursor mode only.
+
+namespace iw::ui {
+
+class MainWindow;
+
+void InstallAnimationMenu(MainWindow& window);
+
+}  // namespace iw::ui
