@@ -1,24 +1,28 @@
 // The animated cursor's windows driven as a user would: frames dragged into the sequence
-// editor's film strip, along it and out of it, then OK stores the sequence.
+// editor's film strip, along it and out of it, then OK stores the sequence; rates typed into
+// the properties in either unit.
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include "WindowFixture.h"
 #include "document/io/AnimatedCursor.h"
 #include "ui/animation/FrameStrip.h"
+#include "ui/animation/PropertiesDialog.h"
 #include "ui/animation/SequenceDialog.h"
 
 namespace iw::test {
 namespace {
 
 struct AnimationWindows : WindowTest {
-    // Three 16 x 16 frames of their own colours and rates 5, 10 and 15, opened.
-    void OpenThreeFrames() {
+    // 16 x 16 frames of their own colours and these rates, opened.
+    void OpenFrames(const std::vector<int>& rates) {
         IconSet set;
         set.mode = FileMode::ANI;
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < static_cast<int>(rates.size()); ++i) {
             const int frame = set.AddIcon(15, 15, 32);
-            set.Info(frame).rate = static_cast<std::int16_t>(5 * (i + 1));
+            set.Info(frame).rate = static_cast<std::int16_t>(rates[static_cast<std::size_t>(i)]);
             for (int x = 0; x < 16; ++x) {
                 for (int y = 0; y < 16; ++y) {
                     set.Image(frame).Color(x, y) = PackColor(80 * i, 40, 200 - 80 * i);
@@ -30,10 +34,15 @@ struct AnimationWindows : WindowTest {
         RecordingProgress progress;
         RecordingLog log;
         CoreContext context{messages.service, progress, log};
-        const std::string path = (temp / "three.ani").string();
+        const std::string path = (temp / "frames.ani").string();
         ASSERT_TRUE(WriteAnimatedCursor(path, set, context));
         Start(path);
-        ASSERT_EQ(editor().Set().Count(), 3);
+        ASSERT_EQ(editor().Set().Count(), static_cast<int>(rates.size()));
+    }
+    // Types over what a box holds, as a user would.
+    static void Retype(QWidget* box, const char* text) {
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, QString::fromLatin1(text));
     }
     // Presses on a cell of `from` and lets go over `to` at `where` (its own coordinates).
     void Drag(ui::FrameStrip* from, int cell, QWidget* to, QPoint where) {
@@ -51,7 +60,7 @@ struct AnimationWindows : WindowTest {
 };
 
 TEST_F(AnimationWindows, SequenceEditorOkStoresTheFilmStripAsTheSequence) {
-    OpenThreeFrames();
+    OpenFrames({5, 10, 15});
     EXPECT_TRUE(presenter.shown.empty());
     Trigger("mnuSequenceEditor");
     auto* dialog = Find<ui::SequenceDialog>("frmSequence");
@@ -79,6 +88,46 @@ TEST_F(AnimationWindows, SequenceEditorOkStoresTheFilmStripAsTheSequence) {
     EXPECT_EQ(editor().Set().animation.ratesText, "15|10|5");
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_TRUE(presenter.shown.empty());
+}
+
+TEST_F(AnimationWindows, PropertiesStoreTheNameAndRatesTypedInEitherUnit) {
+    OpenFrames({6, 6, 12, 6});
+    Trigger("mnuProperties");
+    auto* dialog = Find<ui::PropertiesDialog>("frmANIProperties");
+    ASSERT_NE(dialog, nullptr);
+    std::map<int, QLineEdit*> rate;  // by the frame's number from 1
+    for (QLineEdit* box : dialog->findChildren<QLineEdit*>(QStringLiteral("txtRate")))
+        rate[box->property("tag").toInt()] = box;
+    ASSERT_EQ(rate.size(), 4u);
+    auto* defaultRate = dialog->findChild<QLineEdit*>(QStringLiteral("txtDefaultRate"));
+
+    Retype(dialog->findChild<QLineEdit*>(QStringLiteral("txtName")), "Busy");
+    Retype(rate[4], "9");       // frame 4 goes its own way
+    Retype(defaultRate, "30");  // frames 1 and 2 follow
+    EXPECT_EQ(rate[1]->text(), "30");
+    EXPECT_EQ(rate[2]->text(), "30");
+    EXPECT_EQ(rate[4]->text(), "9");
+    QTest::keyClick(dialog->findChild<QComboBox*>(QStringLiteral("cboUnit")), Qt::Key_Down);
+    EXPECT_EQ(rate[2]->text(), "0.5");
+    EXPECT_EQ(rate[3]->text(), "0.2");
+    Retype(rate[3], "x");
+    QPushButton* ok = dialog->findChild<QPushButton*>(QStringLiteral("cmdOK"));
+    QTest::mouseClick(ok, Qt::LeftButton);
+    ASSERT_EQ(presenter.shown.size(), 1u);
+    EXPECT_EQ(presenter.shown[0].key, "RateSeconds");
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_FALSE(window->isWindowModified());
+
+    Retype(rate[3], "1.25");
+    QTest::mouseClick(ok, Qt::LeftButton);
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    const IconSet& set = editor().Set();
+    EXPECT_EQ(set.properties.name, "Busy");
+    std::vector<int> rates;
+    for (int i = 0; i < set.Count(); ++i)
+        rates.push_back(set.Info(i).rate);
+    EXPECT_EQ(rates, (std::vector<int>{30, 30, 75, 9}));
+    EXPECT_TRUE(window->isWindowModified());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "ui/UiText.h"
 #include "ui/animation/AnimationTexts.h"
+#include "ui/animation/PropertiesDialog.h"
 #include "ui/animation/SequenceDialog.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainWindow.h"
@@ -47,6 +48,17 @@ void OpenWindow(MainWindow& window) {
     dialog->open();
 }
 
+// Puts a command of the File menu right after Save As, beside the other commands on the file.
+void MoveAfterSaveAs(QMenu* file, QAction* action) {
+    const QList<QAction*> actions = file->actions();
+    for (qsizetype i = 0; i + 1 < actions.size(); ++i) {
+        if (actions[i]->objectName() != QLatin1String("mnuSaveAs")) continue;
+        file->removeAction(action);
+        file->insertAction(actions[i + 1], action);
+        return;
+    }
+}
+
 }  // namespace
 
 void InstallAnimationMenu(MainWindow& window) {
@@ -65,7 +77,11 @@ void InstallAnimationMenu(MainWindow& window) {
     QAction* toolSeparator = toolBar->addSeparator();
     toolBar->addAction(button);
 
-    new AnimationCommandsShown(window, {separator, sequence, toolSeparator, button});
+    QAction* properties = actions.AddCommand(MenuId::File, "mnuProperties", at::Properties,
+                                             [&window] { OpenWindow<PropertiesDialog>(window); });
+    MoveAfterSaveAs(actions.MenuFor(MenuId::File), properties);
+
+    new AnimationCommandsShown(window, {separator, sequence, toolSeparator, button, properties});
 }
 
 }  // namespace iw::ui

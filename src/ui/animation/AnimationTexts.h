@@ -39,6 +39,8 @@ inline constexpr TextId DefaultRateHint{
     "lblDefaultHint", kProperties,
     "The first frame's rate.  Frames with the same rate follow it until given their own."};
 inline constexpr TextId FrameLabel{"lblFrame", kProperties, "Frame %1:"};
+inline constexpr TextId IsDefault{"lblIsDefault", kProperties, "(the default rate)"};
+inline constexpr TextId FollowsDefault{"lblFollows", kProperties, "(follows the default)"};
 
 // The preview (its caption is the shared "PreviewANI").
 inline constexpr TextId Play{"cmdPlay", kPreview, "&Play"};

@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/animation/FramePainting.h"
+
 namespace iw::ui {
 namespace {
 
@@ -11,26 +13,6 @@ constexpr int kMargin = 6;     // around the box inside a cell
 constexpr int kNumber = 18;    // the number's line under the box
 constexpr int kSprocket = 10;  // the film strip's perforated edges
 constexpr int kCellWidth = kPicture + 2 * kMargin;
-
-const QBrush& Checker() {
-    static const QBrush brush = [] {
-        QImage tile(8, 8, QImage::Format_RGB32);
-        tile.fill(QColor(255, 255, 255));
-        QPainter p(&tile);
-        p.fillRect(0, 0, 4, 4, QColor(204, 209, 216));
-        p.fillRect(4, 4, 4, 4, QColor(204, 209, 216));
-        return QBrush(tile);
-    }();
-    return brush;
-}
-
-// The picture's place in its box: as it is when it fits, else scaled down keeping its shape.
-QRect FitInto(const QRect& box, QSize size) {
-    if (size.width() > box.width() || size.height() > box.height())
-        size.scale(box.size(), Qt::KeepAspectRatio);
-    return {box.x() + (box.width() - size.width()) / 2,
-            box.y() + (box.height() - size.height()) / 2, size.width(), size.height()};
-}
 
 }  // namespace
 
@@ -108,10 +90,7 @@ void FrameStrip::paintEvent(QPaintEvent* event) {
         if (frame < 0 || frame >= set_.Count()) continue;
         const QRect box(rect.x() + kMargin, rect.y() + kMargin, kPicture, kPicture);
         const PixelPicture& picture = Picture(frame);
-        const QRect target = FitInto(box, picture.Size());
-        painter.setBrushOrigin(target.topLeft());
-        painter.fillRect(target, Checker());
-        DrawPictureOver(painter, target, picture);
+        DrawOnChecker(painter, FitInto(box, picture.Size()), picture);
         painter.setPen(cell == dragged_ ? palette().color(QPalette::Highlight) : text);
         painter.drawText(QRect(rect.x(), box.bottom() + 1, rect.width(), kNumber), Qt::AlignCenter,
                          QString::number(frame + 1));
