@@ -1,6 +1,6 @@
 // The animated cursor's windows driven as a user would: frames dragged into the sequence
 // editor's film strip, along it and out of it, then OK stores the sequence; rates typed into
-// the properties in either unit.
+// the properties in either unit; the preview stepped through the sequence.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,6 +9,7 @@
 #include "WindowFixture.h"
 #include "document/io/AnimatedCursor.h"
 #include "ui/animation/FrameStrip.h"
+#include "ui/animation/FrameView.h"
 #include "ui/animation/PropertiesDialog.h"
 #include "ui/animation/SequenceDialog.h"
 
@@ -17,9 +18,11 @@ namespace {
 
 struct AnimationWindows : WindowTest {
     // 16 x 16 frames of their own colours and these rates, opened.
-    void OpenFrames(const std::vector<int>& rates) {
+    void OpenFrames(const std::vector<int>& rates, const std::string& sequence = "") {
         IconSet set;
         set.mode = FileMode::ANI;
+        set.properties.sequence = sequence;
+        set.animation.sequenceInUse = !sequence.empty();
         for (int i = 0; i < static_cast<int>(rates.size()); ++i) {
             const int frame = set.AddIcon(15, 15, 32);
             set.Info(frame).rate = static_cast<std::int16_t>(rates[static_cast<std::size_t>(i)]);
@@ -128,6 +131,34 @@ TEST_F(AnimationWindows, PropertiesStoreTheNameAndRatesTypedInEitherUnit) {
         rates.push_back(set.Info(i).rate);
     EXPECT_EQ(rates, (std::vector<int>{30, 30, 75, 9}));
     EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(AnimationWindows, PreviewStepsThroughTheSequenceAndPausesToStep) {
+    OpenFrames({5, 5, 5}, "2,0,2,1,");
+    presenter.shown.clear();  // the notice of the sequence
+    Trigger("mnuPreviewANI");
+    QWidget* dialog = Find("frmPreviewANI");
+    ASSERT_NE(dialog, nullptr);
+    auto* zoomed = dialog->findChild<ui::FrameView*>(QStringLiteral("picZoomed"));
+    auto* play = dialog->findChild<QPushButton*>(QStringLiteral("cmdPlay"));
+    const auto click = [dialog](const char* name) {
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QString::fromLatin1(name)),
+                          Qt::LeftButton);
+    };
+    EXPECT_EQ(play->text(), "&Pause");
+    click("cmdPlay");  // paused before its timer could move it on
+    EXPECT_EQ(play->text(), "&Play");
+    std::vector<int> shown{zoomed->Frame()};
+    for (int i = 0; i < 4; ++i) {
+        click("cmdStep");
+        shown.push_back(zoomed->Frame());
+    }
+    click("cmdStepBack");
+    shown.push_back(zoomed->Frame());
+    EXPECT_EQ(shown, (std::vector<int>{2, 0, 2, 1, 2, 1}));
+    EXPECT_EQ(dialog->findChild<ui::FrameView*>(QStringLiteral("picActual"))->Frame(), 1);
+    click("cmdPlay");
+    EXPECT_EQ(play->text(), "&Pause");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "ui/UiText.h"
 #include "ui/animation/AnimationTexts.h"
+#include "ui/animation/PreviewDialog.h"
 #include "ui/animation/PropertiesDialog.h"
 #include "ui/animation/SequenceDialog.h"
 #include "ui/main/MainActions.h"
@@ -77,11 +78,14 @@ void InstallAnimationMenu(MainWindow& window) {
     QAction* toolSeparator = toolBar->addSeparator();
     toolBar->addAction(button);
 
+    QAction* preview = actions.AddCommand(MenuId::Mode, "mnuPreviewANI", at::PreviewANI,
+                                          [&window] { OpenWindow<PreviewDialog>(window); });
     QAction* properties = actions.AddCommand(MenuId::File, "mnuProperties", at::Properties,
                                              [&window] { OpenWindow<PropertiesDialog>(window); });
     MoveAfterSaveAs(actions.MenuFor(MenuId::File), properties);
 
-    new AnimationCommandsShown(window, {separator, sequence, toolSeparator, button, properties});
+    new AnimationCommandsShown(window,
+                               {separator, sequence, preview, toolSeparator, button, properties});
 }
 
 }  // namespace iw::ui

@@ -49,5 +49,7 @@ inline constexpr TextId StepBack{"cmdStepBack", kPreview, "< Step &Back"};
 inline constexpr TextId Step{"cmdStep", kPreview, "&Step >"};
 inline constexpr TextId Close{"cmdClose", kPreview, "&Close"};
 inline constexpr TextId StepText{"lblStep", kPreview, "Frame %1, step %2 of %3"};
+inline constexpr TextId ActualSize{"fraActual", kPreview, "Actual size"};
+inline constexpr TextId Zoomed{"fraZoomed", kPreview, "Zoomed %1x"};
 
 }  // namespace iw::ui::animation_texts

@@ -26,9 +26,13 @@ QRect FitInto(const QRect& box, QSize size) {
             box.y() + (box.height() - size.height()) / 2, size.width(), size.height()};
 }
 
+void FillChecker(QPainter& painter, const QRect& rect) {
+    painter.setBrushOrigin(rect.topLeft());
+    painter.fillRect(rect, Checker());
+}
+
 void DrawOnChecker(QPainter& painter, const QRect& target, const PixelPicture& picture) {
-    painter.setBrushOrigin(target.topLeft());
-    painter.fillRect(target, Checker());
+    FillChecker(painter, target);
     DrawPictureOver(painter, target, picture);
 }
 
