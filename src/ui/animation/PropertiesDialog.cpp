@@ -16,6 +16,7 @@
 #include "ui/UiText.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FramePainting.h"
+#include "ui/animation/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -124,16 +125,7 @@ PropertiesDialog::PropertiesDialog(Editor& editor, QWidget* parent)
     ratesLayout->addWidget(hint);
     ratesLayout->addWidget(frames_, 1);
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok =
-        buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(ok, &QPushButton::clicked, this, &PropertiesDialog::Ok);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QDialogButtonBox* buttons = OkCancelButtons(*this, [this] { Ok(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(names);

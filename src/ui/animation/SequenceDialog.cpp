@@ -15,6 +15,7 @@
 #include "ui/adapters/HelpLocation.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FrameStrip.h"
+#include "ui/animation/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -72,18 +73,9 @@ SequenceDialog::SequenceDialog(Editor& editor, QWidget* parent)
     connect(useSequence_, &QRadioButton::toggled, this,
             [this](bool on) { sequence_.SetUseSequence(on); });
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok =
-        buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    QDialogButtonBox* buttons = OkCancelButtons(*this, [this] { Ok(); });
     QPushButton* help = buttons->addButton(Tr(at::Help), QDialogButtonBox::HelpRole);
     help->setObjectName(QStr(at::Help.key));
-    connect(ok, &QPushButton::clicked, this, &SequenceDialog::Ok);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(help, &QPushButton::clicked, this, [] {
         const QString page = HelpPage(QStringLiteral("Animated Cursors.htm"));
         if (!page.isEmpty()) QDesktopServices::openUrl(QUrl::fromLocalFile(page));
