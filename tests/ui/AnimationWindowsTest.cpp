@@ -79,6 +79,15 @@ TEST_F(AnimationWindows, SequenceEditorOkStoresTheFilmStripAsTheSequence) {
     EXPECT_EQ(film->Frames(), (std::vector<int>{2, 0, 1}));
     Drag(film, 1, film, film->CellRect(2).center() + QPoint(film->CellRect(2).width() / 3, 0));
     EXPECT_EQ(film->Frames(), (std::vector<int>{2, 1, 0}));
+    // The same by keys: the second frame added at the end, moved back a place, then removed.
+    QTest::keyClick(frames, Qt::Key_Home);
+    QTest::keyClick(frames, Qt::Key_Right);
+    QTest::keyClick(frames, Qt::Key_Return);
+    EXPECT_EQ(film->Frames(), (std::vector<int>{2, 1, 0, 1}));
+    QTest::keyClick(film, Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(film->Frames(), (std::vector<int>{2, 1, 1, 0}));
+    QTest::keyClick(film, Qt::Key_Delete);
+    EXPECT_EQ(film->Frames(), (std::vector<int>{2, 1, 0}));
     EXPECT_FALSE(window->isWindowModified());
 
     // On the option's indicator: the button is wider than what takes a click.

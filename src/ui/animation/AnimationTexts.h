@@ -24,7 +24,8 @@ inline constexpr TextId SequenceLabel{"lblSequence", kSequence, "&Sequence:"};
 inline constexpr TextId SequenceHint{
     "lblHint", kSequence,
     "Drag frames into the sequence below.  Drag a step along the sequence to move it, or out "
-    "of it to remove it."};
+    "of it to remove it.  By keys: Enter adds the chosen frame, Delete removes the chosen step "
+    "and Ctrl with an arrow moves it."};
 inline constexpr TextId PlayInOrder{"optOrder", kSequence, "Play the frames in &order"};
 inline constexpr TextId PlaySequence{"optSequence", kSequence, "Play the se&quence"};
 inline constexpr TextId Help{"cmdHelp", kSequence, "&Help"};

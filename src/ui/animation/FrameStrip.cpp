@@ -1,7 +1,9 @@
 #include "ui/animation/FrameStrip.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollArea>
 
 #include "ui/animation/FramePainting.h"
 
@@ -19,12 +21,14 @@ constexpr int kCellWidth = kPicture + 2 * kMargin;
 FrameStrip::FrameStrip(const IconSet& set, Look look, QWidget* parent)
     : QWidget(parent), set_(set), look_(look) {
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
+    setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(false);
 }
 
 void FrameStrip::SetFrames(std::vector<int> frames) {
     frames_ = std::move(frames);
     gap_ = -1;
+    current_ = std::clamp(current_, 0, std::max(0, static_cast<int>(frames_.size()) - 1));
     updateGeometry();
     update();
 }
@@ -95,6 +99,11 @@ void FrameStrip::paintEvent(QPaintEvent* event) {
         painter.drawText(QRect(rect.x(), box.bottom() + 1, rect.width(), kNumber), Qt::AlignCenter,
                          QString::number(frame + 1));
     }
+    if (hasFocus() && current_ < static_cast<int>(frames_.size())) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(CellRect(current_).adjusted(2, 2, -2, -2));
+    }
     if (gap_ >= 0) {
         const int x = kMargin / 2 + gap_ * kCellWidth;
         painter.fillRect(QRect(x - 1, 0, 3, height()), palette().color(QPalette::Highlight));
@@ -105,6 +114,7 @@ void FrameStrip::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     dragged_ = CellAt(event->position().toPoint());
     if (dragged_ < 0) return;
+    current_ = dragged_;
     update();
     emit DragStarted(dragged_);
 }
@@ -118,6 +128,70 @@ void FrameStrip::mouseReleaseEvent(QMouseEvent* event) {
     dragged_ = -1;
     update();
     emit DragReleased(event->globalPosition().toPoint());
+}
+
+void FrameStrip::SetCurrent(int cell) {
+    if (cell < 0 || cell >= static_cast<int>(frames_.size())) return;
+    current_ = cell;
+    // In a scroll area (the strip's parent is its viewport) the cell scrolls into view.
+    QWidget* viewport = parentWidget();
+    if (auto* area = qobject_cast<QScrollArea*>(viewport ? viewport->parentWidget() : nullptr)) {
+        const QRect rect = CellRect(cell);
+        area->ensureVisible(rect.center().x(), rect.center().y(), rect.width(), 0);
+    }
+    update();
+}
+
+void FrameStrip::keyPressEvent(QKeyEvent* event) {
+    const int count = static_cast<int>(frames_.size());
+    const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+    switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right: {
+            const bool right = event->key() == Qt::Key_Right;
+            if (control && look_ == Look::Film) {
+                // Past the next cell: the gap after it, or before the one before.
+                emit MovePressed(current_, right ? current_ + 2 : current_ - 1);
+            } else {
+                SetCurrent(current_ + (right ? 1 : -1));
+            }
+            return;
+        }
+        case Qt::Key_Home:
+            SetCurrent(0);
+            return;
+        case Qt::Key_End:
+            SetCurrent(count - 1);
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Insert:
+            if (look_ == Look::Frames && current_ < count) {
+                emit AddPressed(current_);
+                return;
+            }
+            break;
+        case Qt::Key_Delete:
+        case Qt::Key_Backspace:
+            if (look_ == Look::Film && current_ < count) {
+                emit RemovePressed(current_);
+                return;
+            }
+            break;
+        default:
+            break;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void FrameStrip::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void FrameStrip::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 }  // namespace iw::ui

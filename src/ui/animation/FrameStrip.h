@@ -4,6 +4,9 @@
 // a picture starts dragging it; while the mouse moves and when it is let go the strip tells
 // where (in global coordinates), and the dialog decides what the drag does. The film strip
 // shows where a dropped picture would go.
+//
+// The same by keys: the arrows choose a cell; Enter or Insert asks for it to be added,
+// Delete for it to be removed, Ctrl with an arrow for it to be moved one place.
 
 #include <QWidget>
 #include <vector>
@@ -29,6 +32,9 @@ class FrameStrip final : public QWidget {
     QRect CellRect(int cell) const;
     // Where a drop would go (-1: nowhere).
     void ShowGap(int gap);
+    // The cell the keys work on.
+    int Current() const { return current_; }
+    void SetCurrent(int cell);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -37,12 +43,18 @@ class FrameStrip final : public QWidget {
     void DragStarted(int cell);
     void DragMoved(QPoint global);
     void DragReleased(QPoint global);
+    void AddPressed(int cell);
+    void RemovePressed(int cell);
+    void MovePressed(int cell, int gap);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     const PixelPicture& Picture(int frame);
@@ -53,6 +65,7 @@ class FrameStrip final : public QWidget {
     std::vector<PixelPicture> pictures_;  // by image, made on first use
     int gap_ = -1;
     int dragged_ = -1;
+    int current_ = 0;
 };
 
 }  // namespace iw::ui

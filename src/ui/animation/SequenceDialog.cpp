@@ -56,11 +56,11 @@ SequenceDialog::SequenceDialog(Editor& editor, QWidget* parent)
     auto* framesLabel = new QLabel(Tr(at::FramesLabel), this);
     framesLabel->setObjectName(QStr(at::FramesLabel.key));
     QScrollArea* framesArea = StripArea(frames_, this);
-    framesLabel->setBuddy(framesArea);
+    framesLabel->setBuddy(frames_);
     auto* filmLabel = new QLabel(Tr(at::SequenceLabel), this);
     filmLabel->setObjectName(QStr(at::SequenceLabel.key));
     filmArea_ = StripArea(film_, this);
-    filmLabel->setBuddy(filmArea_);
+    filmLabel->setBuddy(film_);
     auto* hint = new QLabel(Tr(at::SequenceHint), this);
     hint->setObjectName(QStr(at::SequenceHint.key));
     hint->setWordWrap(true);
@@ -85,6 +85,20 @@ SequenceDialog::SequenceDialog(Editor& editor, QWidget* parent)
         draggedFrame_ = frames_->Frames()[static_cast<std::size_t>(cell)];
     });
     connect(film_, &FrameStrip::DragStarted, this, [this](int cell) { draggedStep_ = cell; });
+    connect(frames_, &FrameStrip::AddPressed, this, [this](int cell) {
+        const int end = static_cast<int>(sequence_.Steps().size());
+        if (!sequence_.Insert(frames_->Frames()[static_cast<std::size_t>(cell)], end)) return;
+        ShowSteps();
+        film_->SetCurrent(end);
+    });
+    connect(film_, &FrameStrip::RemovePressed, this, [this](int step) {
+        if (sequence_.Remove(step)) ShowSteps();
+    });
+    connect(film_, &FrameStrip::MovePressed, this, [this](int step, int gap) {
+        if (!sequence_.Move(step, gap)) return;
+        ShowSteps();
+        film_->SetCurrent(gap > step ? gap - 1 : gap);
+    });
     connect(frames_, &FrameStrip::DragMoved, this, &SequenceDialog::DragMoved);
     connect(film_, &FrameStrip::DragMoved, this, &SequenceDialog::DragMoved);
     connect(frames_, &FrameStrip::DragReleased, this, &SequenceDialog::DroppedFrame);
