@@ -76,10 +76,11 @@ SequenceDialog::SequenceDialog(Editor& editor, QWidget* parent)
     QDialogButtonBox* buttons = OkCancelButtons(*this, [this] { Ok(); });
     QPushButton* help = buttons->addButton(Tr(at::Help), QDialogButtonBox::HelpRole);
     help->setObjectName(QStr(at::Help.key));
-    connect(help, &QPushButton::clicked, this, [] {
-        const QString page = HelpPage(QStringLiteral("Animated Cursors.htm"));
-        if (!page.isEmpty()) QDesktopServices::openUrl(QUrl::fromLocalFile(page));
-    });
+    // Without the user guide beside the program there is nothing to open.
+    const QString page = HelpPage(QStringLiteral("Animated Cursors.htm"));
+    help->setEnabled(!page.isEmpty());
+    connect(help, &QPushButton::clicked, this,
+            [page] { QDesktopServices::openUrl(QUrl::fromLocalFile(page)); });
 
     connect(frames_, &FrameStrip::DragStarted, this, [this](int cell) {
         draggedFrame_ = frames_->Frames()[static_cast<std::size_t>(cell)];
