@@ -62,6 +62,21 @@ void ProgramSettings::SetStartupAction(int action) {
     settings_.SetValue(settings::Startup, NumberText(action));
 }
 
+void ProgramSettings::SetUseFont(bool useFont) {
+    window_.useFont = useFont;
+    settings_.SetBool(settings::UseFont, useFont);
+}
+
+void ProgramSettings::SetSplash(bool splash) {
+    window_.splash = splash;
+    settings_.SetValue(settings::Splash, splash ? "1" : "0");
+}
+
+void ProgramSettings::SetBlankIcon(int kind) {
+    window_.blankIcon = kind;
+    settings_.SetValue(settings::BlankIcon, NumberText(kind));
+}
+
 void ProgramSettings::AddRecentFile(const std::string& path) {
     iw::AddRecentFile(settings_, path);
     events_.Notify(&IEditorObserver::RecentFilesChanged);

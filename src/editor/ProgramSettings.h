@@ -51,6 +51,14 @@ class ProgramSettings {
     void SetShowInspector(bool show);
     // The start-up dialog's choice, written to "Settings\Startup" as it closes.
     void SetStartupAction(int action);
+    // The options window's General choices, each written to its key at once:
+    // "Settings\UseFont", "Settings\Splash" and "Settings\BlankIcon".
+    void SetUseFont(bool useFont);
+    void SetSplash(bool splash);
+    void SetBlankIcon(int kind);
+    // The options window's Clear Messages: every message the user silenced shows again.
+    // The emptied message store is written with the settings.
+    void ClearMessages() { messages_.ClearSuppressions(); }
 
     // The recent-files list ("NA" for an unused entry); the menu's items.
     std::array<std::string, kRecentFileCount> RecentFiles() const {

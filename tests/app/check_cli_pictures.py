@@ -10,29 +10,25 @@
 
 usage: check_cli_pictures.py ICONWRIGHT_CLI
 """
-import json
 import os
-import subprocess
 import sys
 import tempfile
 
 from PIL import Image
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
+from cli_check import expect, problems, report  # noqa: E402
+import cli_check  # noqa: E402
+
 CLI = sys.argv[1] if len(sys.argv) > 1 else None
-problems = []
 
 
 def cli(*args):
-    return subprocess.run([CLI, *args], capture_output=True, text=True)
-
-
-def expect(condition, what):
-    if not condition:
-        problems.append(what)
+    return cli_check.run(CLI, *args)
 
 
 def info(path):
-    return json.loads(cli("info", "--json", path).stdout)
+    return cli_check.info(CLI, path)
 
 
 def check_convert(tmp):
@@ -95,10 +91,7 @@ def main():
     with tempfile.TemporaryDirectory() as tmp:
         check_convert(tmp)
         check_favicon(tmp)
-    for problem in problems:
-        print("problem:", problem)
-    print(f"{len(problems)} problem(s)")
-    return 1 if problems else 0
+    return report("problem:", f"{len(problems)} problem(s)")
 
 
 if __name__ == "__main__":

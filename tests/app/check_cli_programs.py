@@ -11,17 +11,18 @@
 
 usage: check_cli_programs.py ICONWRIGHT_CLI PROGRAMS_DIR INTEROP_DIR
 """
-import json
 import os
 import struct
-import subprocess
 import sys
 import tempfile
 
 from PIL import Image
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
+from cli_check import expect, problems, report  # noqa: E402
+import cli_check  # noqa: E402
+
 CLI, PROGRAMS, INTEROP = sys.argv[1:4]
-problems = []
 
 # Group (type, name, language asked) -> the file it was made from.
 GROUPS = [
@@ -36,18 +37,11 @@ GROUPS = [
 
 
 def cli(*args):
-    return subprocess.run([CLI, *args], capture_output=True, text=True)
-
-
-def expect(condition, what):
-    if not condition:
-        problems.append(what)
+    return cli_check.run(CLI, *args)
 
 
 def info(path):
-    run = cli("info", "--json", path)
-    expect(run.returncode == 0, f"info {path}: {run.stderr}")
-    return json.loads(run.stdout) if run.returncode == 0 else {"images": [], "groups": []}
+    return cli_check.info(CLI, path)
 
 
 def shapes(images):
@@ -161,10 +155,7 @@ def main():
         for library in ("programs64.dll", "programs32.dll"):
             check_library(library, tmp)
         check_defaults_and_errors(tmp)
-    for problem in problems:
-        print("FAIL:", problem)
-    print(f"Programs: {len(problems)} problems")
-    return 1 if problems else 0
+    return report("FAIL:", f"Programs: {len(problems)} problems")
 
 
 if __name__ == "__main__":

@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 #include <zlib.h>
 
-#include <string_view>
-
 #include "CompressionSamples.h"
 #include "codec/zlib/Checksums.h"
 
 namespace iw {
 namespace {
 
-std::span<const std::uint8_t> AsBytes(std::string_view text) {
-    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
-}
+using test::AsBytes;
 
 TEST(Checksums, PublishedCheckValues) {
     EXPECT_EQ(Crc32(0, AsBytes("123456789")), 0xCBF43926u);

@@ -8,57 +8,28 @@
 #include <cstdint>
 #include <cstdlib>
 #include <random>
+#include <span>
+#include <string_view>
 #include <vector>
+
+#include "codec/png/PngFilterStrategy.h"
 
 namespace iw::test {
 
-using Rgba = std::vector<std::uint8_t>;  // width * height * 4, rows top-down
+using RgbaBytes = std::vector<std::uint8_t>;  // width * height * 4, rows top-down
 
-// Per row the PNG filter (None, Sub, Up, Average, Paeth) with the smallest sum of
-// absolute signed bytes: the usual heuristic of PNG writers.
-inline std::vector<std::uint8_t> PngFiltered(const Rgba& pixels, int width, int height) {
-    const std::size_t stride = static_cast<std::size_t>(width) * 4;
-    std::vector<std::uint8_t> out;
-    out.reserve((stride + 1) * static_cast<std::size_t>(height));
-    std::vector<std::uint8_t> zero(stride, 0), candidate(stride), best(stride);
-    for (int y = 0; y < height; ++y) {
-        const std::uint8_t* row = pixels.data() + static_cast<std::size_t>(y) * stride;
-        const std::uint8_t* up = y ? row - stride : zero.data();
-        long bestScore = -1;
-        std::uint8_t bestType = 0;
-        for (std::uint8_t type = 0; type < 5; ++type) {
-            long score = 0;
-            for (std::size_t i = 0; i < stride; ++i) {
-                const int a = i >= 4 ? row[i - 4] : 0, b = up[i], c = i >= 4 ? up[i - 4] : 0;
-                int predictor = 0;
-                if (type == 1) predictor = a;
-                if (type == 2) predictor = b;
-                if (type == 3) predictor = (a + b) / 2;
-                if (type == 4) {
-                    const int p = a + b - c, pa = std::abs(p - a), pb = std::abs(p - b),
-                              pc = std::abs(p - c);
-                    predictor = (pa <= pb && pa <= pc) ? a : pb <= pc ? b : c;
-                }
-                candidate[i] = static_cast<std::uint8_t>(row[i] - predictor);
-                score += std::abs(static_cast<std::int8_t>(candidate[i]));
-            }
-            if (bestScore < 0 || score < bestScore) {
-                bestScore = score;
-                bestType = type;
-                best = candidate;
-            }
-        }
-        out.push_back(bestType);
-        out.insert(out.end(), best.begin(), best.end());
-    }
-    return out;
+// Rows filtered the way PNG writers do (per row the filter with the smallest sum).
+inline std::vector<std::uint8_t> PngFiltered(const RgbaBytes& pixels, int width, int height) {
+    return png::FilterImage(pixels, static_cast<std::size_t>(height),
+                            static_cast<std::size_t>(width) * 4, 4,
+                            png::FilterStrategy::MinimumSum);
 }
 
 // Soft gradients behind anti-aliased discs and a ring with a drop of transparency: the
 // typical large application icon.
-inline Rgba GradientIcon(int size, unsigned seed = 1) {
+inline RgbaBytes GradientIcon(int size, unsigned seed = 1) {
     std::mt19937 rng(seed);
-    Rgba px(static_cast<std::size_t>(size) * size * 4);
+    RgbaBytes px(static_cast<std::size_t>(size) * size * 4);
     const double r1 = size * 0.42, r2 = size * 0.18;
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x) {
@@ -79,7 +50,7 @@ inline Rgba GradientIcon(int size, unsigned seed = 1) {
 
 // Pixel art scaled up: a 16 x 16 sprite of a few palette colours, each sprite pixel a
 // square block, on a transparent background. Long runs, short-distance repeats.
-inline Rgba PixelArt(int size, unsigned seed = 2) {
+inline RgbaBytes PixelArt(int size, unsigned seed = 2) {
     std::mt19937 rng(seed);
     const std::uint32_t palette[6] = {0x00000000u, 0xFF202020u, 0xFF3050E0u,
                                       0xFFF0C040u, 0xFFE04040u, 0xFFFFFFFFu};
@@ -88,7 +59,7 @@ inline Rgba PixelArt(int size, unsigned seed = 2) {
         for (auto& cell : row)
             cell = static_cast<std::uint8_t>(rng() % 3 == 0 ? 0 : rng() % 6);
     }
-    Rgba px(static_cast<std::size_t>(size) * size * 4);
+    RgbaBytes px(static_cast<std::size_t>(size) * size * 4);
     const int block = std::max(1, size / 16);
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x) {
@@ -102,10 +73,10 @@ inline Rgba PixelArt(int size, unsigned seed = 2) {
 }
 
 // A photograph-like picture: smooth large-scale colour plus sensor noise, opaque.
-inline Rgba NoisyPhoto(int width, int height, unsigned seed = 3) {
+inline RgbaBytes NoisyPhoto(int width, int height, unsigned seed = 3) {
     std::mt19937 rng(seed);
     std::normal_distribution<double> noise(0.0, 6.0);
-    Rgba px(static_cast<std::size_t>(width) * height * 4);
+    RgbaBytes px(static_cast<std::size_t>(width) * height * 4);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             std::uint8_t* p = &px[(static_cast<std::size_t>(y) * width + x) * 4];
@@ -118,6 +89,10 @@ inline Rgba NoisyPhoto(int width, int height, unsigned seed = 3) {
         }
     }
     return px;
+}
+
+inline std::span<const std::uint8_t> AsBytes(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
 inline std::vector<std::uint8_t> RandomBytes(std::size_t n, unsigned seed) {

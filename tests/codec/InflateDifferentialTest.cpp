@@ -1,5 +1,5 @@
 // The own inflate against zlib: streams that zlib writes at every level and strategy, every
-// cut of valid streams, every byte of valid streams flipped, and the fuzz findings.
+// cut and every flipped byte of valid streams, and the fuzz findings.
 
 #include <gtest/gtest.h>
 #include <zlib.h>
@@ -69,22 +69,9 @@ TEST(InflateDifferential, StreamsOfEveryLevelAndStrategy) {
     }
 }
 
-TEST(InflateDifferential, EveryCutOfAValidStreamIsAnError) {
-    const auto data = test::PngFiltered(test::GradientIcon(40), 40, 40);
-    for (const auto& stream :
-         {ZlibStream(data, 6), ZlibStream(data, 0), ZlibStream(data, 9, Z_FIXED)}) {
-        std::vector<std::uint8_t> out;
-        for (std::size_t cut = 0; cut < stream.size(); ++cut) {
-            ASSERT_EQ(InflateZlib(std::span(stream).first(cut), data.size(), out),
-                      InflateStatus::TruncatedInput)
-                << "cut at " << cut << " of " << stream.size();
-            ASSERT_LE(out.size(), data.size());
-        }
-    }
-}
-
-// Every byte of a few valid streams flipped (all bits, then one bit).
-TEST(InflateDifferential, EveryFlippedByteAgreesWithZlib) {
+// Every cut of a few valid streams is truncated input, and every byte of them flipped (all
+// bits, then one bit) gives what zlib gives.
+TEST(InflateDifferential, EveryCutIsTruncatedAndEveryFlippedByteAgreesWithZlib) {
     const auto art = test::PngFiltered(test::PixelArt(32), 32, 32);
     const auto icon = test::PngFiltered(test::GradientIcon(24), 24, 24);
     const std::vector<std::uint8_t> streams[] = {ZlibStream(icon, 9), ZlibStream(art, 6, Z_RLE),
@@ -92,6 +79,12 @@ TEST(InflateDifferential, EveryFlippedByteAgreesWithZlib) {
                                                  ZlibStream(art, 0)};
     std::size_t agreedFailures = 0;
     for (const auto& stream : streams) {
+        std::vector<std::uint8_t> out;
+        for (std::size_t cut = 0; cut < stream.size(); ++cut) {
+            ASSERT_EQ(InflateZlib(std::span(stream).first(cut), icon.size() * 2, out),
+                      InflateStatus::TruncatedInput)
+                << "cut at " << cut << " of " << stream.size();
+        }
         for (std::size_t i = 0; i < stream.size(); ++i) {
             for (std::uint8_t mask :
                  {std::uint8_t{0xFF}, static_cast<std::uint8_t>(1u << (i % 8))}) {

@@ -6,20 +6,16 @@
 #include <span>
 #include <string>
 
+#include "CompressionSamples.h"
+#include "PngTestHelpers.h"
 #include "codec/zlib/Checksums.h"
 #include "codec/zlib/Inflate.h"
 
 namespace iw {
 namespace {
 
-std::span<const std::uint8_t> AsBytes(std::string_view text) {
-    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
-}
-
-std::vector<std::uint8_t> BE32(std::uint32_t v) {
-    return {static_cast<std::uint8_t>(v >> 24), static_cast<std::uint8_t>(v >> 16),
-            static_cast<std::uint8_t>(v >> 8), static_cast<std::uint8_t>(v)};
-}
+using test::AsBytes;
+using test::BE32;
 
 // Canonical codes (most significant bit first, as RFC 1951 writes them down) for lengths.
 std::vector<std::uint32_t> CanonicalCodes(const std::vector<std::uint8_t>& lengths) {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <optional>
 
 #include "PngTestHelpers.h"
@@ -204,32 +203,6 @@ TEST(PngParser, RefusesWithTheRightError) {
                 << c.what << (ownInflate ? " (own inflate)" : "");
         }
     }
-}
-
-// Files of 56 bytes or less are not read at all; longer ones chunk by chunk.
-TEST(PngParser, ReadsFilesOfMoreThan56Bytes) {
-    const auto png =
-        PngBuilder().Header(2, 2, 8, 2).ImageData(kRawRgb, 5).Chunk("teXt", {1, 2}).End().Bytes();
-    c32bppDIB image;
-    cPNGParser parser;
-    std::int32_t w = 0, h = 0;
-    TempDir dir;
-    const struct {
-        std::size_t length;
-        PngError error;
-    } files[] = {
-        {56, PngError::TooShort}, {57, PngError::TruncatedChunk}, {png.size(), PngError::None}};
-    for (const auto& [length, error] : files) {
-        WriteFileBytes(dir / "a.png",
-                       std::vector<std::uint8_t>(
-                           png.begin(), png.begin() + static_cast<std::ptrdiff_t>(length)));
-        std::FILE* file = std::fopen((dir / "a.png").c_str(), "rb");
-        ASSERT_NE(file, nullptr);
-        EXPECT_EQ(parser.LoadFile(file, image, w, h), error == PngError::None) << length;
-        EXPECT_EQ(parser.LastError(), error) << length;
-        std::fclose(file);
-    }
-    EXPECT_EQ(RgbaOf(image), kRgba2x2);
 }
 
 // Unfiltered Adam7 data of an RGBA image, built pass by pass.

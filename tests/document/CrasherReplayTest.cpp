@@ -61,14 +61,10 @@ void SamePixelsInCursors(const Path& file) {
 
 // Damaged pictures are told apart as the reader does, for every command.
 void RefusedWith(const Path& file, const std::string& key) {
-    test::MessageFixture messages;
-    NullProgress progress;
-    NullLog log;
-    CoreContext context{messages.service, progress, log};
+    test::CoreFixture f;
     IconSet set;
-    EXPECT_FALSE(ReadIconFile(file.string(), set, context));
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].key, key);
+    EXPECT_FALSE(ReadIconFile(file.string(), set, f.context));
+    EXPECT_EQ(f.presenter.Keys(), std::vector{key});
 }
 
 // What each finding showed, beyond reading cleanly and writing back.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "document/model/IconImage.h"
@@ -41,18 +42,16 @@ TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
             EXPECT_EQ(image.At(200, 3, IconImage::ColorPlane), 0);
         }
     }
+    // A whole image and its copy freed: the next image reads zero too.
     IconImage full;
-    for (int plane : {IconImage::ColorPlane, IconImage::AlphaPlane}) {
-        for (std::int32_t& cell : full.PlaneCells(plane))
-            cell = 7;
-    }
+    for (int plane : {IconImage::ColorPlane, IconImage::AlphaPlane})
+        std::ranges::fill(full.PlaneCells(plane), 7);
     IconImage clone = full.Clone();
     full = IconImage();
     clone = IconImage();
     IconImage fresh;
     fresh.Alpha(0, 0) = 0;
-    EXPECT_TRUE(AllZero(fresh));
-    EXPECT_TRUE(AllZero(full));
+    EXPECT_TRUE(AllZero(fresh) && AllZero(full));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace {
 
 using test::Flat;
 using test::Format;
-using Fixture = test::PictureFixture;
+using Fixture = test::CoreFixture;
 
 TEST(ConvertPicture, EveryFormatIsTheFittedPictureAtItsDepth) {
     Fixture f;

@@ -8,10 +8,13 @@
 #include "document/io/PictureImport.h"
 #include "document/io/PictureLoading.h"
 #include "support/IcoBuilder.h"
+#include "support/TestImages.h"
 #include "support/TestSupport.h"
 
 namespace iw {
 namespace {
+
+using Keys = std::vector<std::string>;
 
 // Records what it is asked and hands back a fixed picture.
 class FakeDecoder final : public IPictureDecoder {
@@ -86,59 +89,49 @@ TEST(PictureLoading, PhotoshopFilesAskAndTell) {
     test::PsdSpec grey;
     grey.mode = 1;
     grey.channels = 1;
-    const auto greyFile = test::BuildPsd(grey);
     for (MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
         test::MessageFixture messages;
         messages.presenter.answer = answer;
         RgbaBuffer picture;
-        const PictureLoadStatus status = DecodePicture(greyFile, {}, messages.service, picture);
-        ASSERT_EQ(messages.presenter.shown.size(), 1u);
-        EXPECT_EQ(messages.presenter.shown[0].key, "PSDBadColor");
+        EXPECT_EQ(
+            DecodePicture(test::BuildPsd(grey), {}, messages.service, picture),
+            answer == MessageAnswer::Yes ? PictureLoadStatus::Ok : PictureLoadStatus::Declined);
+        EXPECT_EQ(messages.presenter.Keys(), Keys{"PSDBadColor"});
         EXPECT_EQ(messages.presenter.shown[0].buttons, MessageButtons::YesNo);
-        EXPECT_EQ(status, answer == MessageAnswer::Yes ? PictureLoadStatus::Ok
-                                                       : PictureLoadStatus::Declined);
     }
-    test::MessageFixture messages;
-    test::TempDir dir;
+    test::CoreFixture f;
     auto broken = test::BuildPsd({});
-    broken.resize(broken.size() - 1);
-    test::WriteFileBytes(dir / "broken.psd", broken);
+    broken.pop_back();
+    test::WriteFileBytes(f.dir / "broken.psd", broken);
+    test::WriteFileBytes(f.dir / "text.png", {'n', 'o', 't', ' ', 'a', ' ', 'p', 'n', 'g'});
     RgbaBuffer picture;
-    EXPECT_EQ(LoadPictureFile(dir / "broken.psd", {}, messages.service, picture),
+    EXPECT_EQ(LoadPictureFile(f.dir / "broken.psd", {}, f.service, picture),
               PictureLoadStatus::Corrupt);
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);  // the Photoshop message, not a second one
-    EXPECT_EQ(messages.presenter.shown[0].key, "UnableOpenPSD");
-    EXPECT_EQ(messages.presenter.shown[0].type, MessageType::Critical);
-
-    test::WriteFileBytes(dir / "text.png", {'n', 'o', 't', ' ', 'a', ' ', 'p', 'n', 'g'});
-    EXPECT_EQ(LoadPictureFile(dir / "text.png", {}, messages.service, picture),
+    EXPECT_EQ(LoadPictureFile(f.dir / "text.png", {}, f.service, picture),
               PictureLoadStatus::Unsupported);
-    EXPECT_EQ(messages.presenter.shown.back().key, "CorruptFile");
-    EXPECT_NE(messages.presenter.shown.back().text.find("text.png"), std::string::npos);
+    // The Photoshop message alone, not a second one; then the file's own.
+    EXPECT_EQ(f.presenter.Keys(), (Keys{"UnableOpenPSD", "CorruptFile"}));
+    EXPECT_TRUE(f.presenter.shown.back().text.ends_with("text.png"));
 }
 
 TEST(PictureImport, LargePicturesAskAndAreScaledDownToFit) {
     test::MessageFixture messages;
     messages.presenter.answer = MessageAnswer::No;
     EXPECT_TRUE(ConfirmLargeImport(RgbaBuffer(500, 500), messages.service));
-    EXPECT_TRUE(messages.presenter.shown.empty());
     EXPECT_FALSE(ConfirmLargeImport(RgbaBuffer(501, 20), messages.service));
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].key, "ImportPicture");
+    EXPECT_EQ(messages.presenter.Keys(), Keys{"ImportPicture"});
 
     RgbaBuffer wide(64, 32);
-    for (Rgba& p : wide.Pixels())
-        p = {10, 20, 30, 255};
-    IconImage image;
-    image.info.widthMinus1 = image.info.heightMinus1 = 15;
-    image.info.bitCount = 8;
+    std::ranges::fill(wide.Pixels(), Rgba{10, 20, 30, 255});
+    IconImage image = test::MakeImage(16, 16, 8);
     test::RecordingProgress progress;
     ImportPictureInto(image, wide, progress);
-    EXPECT_EQ(progress.statuses, (std::vector<std::string>{"Importing Image...", ""}));
-    EXPECT_EQ(image.Color(0, 3), TransparentColor);  // 16 x 8 centred: rows 4 to 11
-    EXPECT_EQ(image.Color(0, 4), PackColor(10, 20, 30));
-    EXPECT_EQ(image.Color(15, 11), PackColor(10, 20, 30));
-    EXPECT_EQ(image.Color(15, 12), TransparentColor);
+    EXPECT_EQ(progress.statuses, (Keys{"Importing Image...", ""}));
+    // 16 x 8 centred: rows 4 to 11.
+    EXPECT_EQ(
+        std::tuple(image.Color(0, 3), image.Color(0, 4), image.Color(15, 11), image.Color(15, 12)),
+        std::tuple(TransparentColor, PackColor(10, 20, 30), PackColor(10, 20, 30),
+                   TransparentColor));
 }
 
 }  // namespace

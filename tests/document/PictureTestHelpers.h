@@ -9,18 +9,9 @@
 #include "codec/png/PngCodec.h"
 #include "document/model/IconImage.h"
 #include "imaging/RgbaBuffer.h"
-#include "services/core/CoreContext.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {
-
-struct PictureFixture {
-    test::MessageFixture messages;
-    test::RecordingProgress progress;
-    test::RecordingLog log;
-    CoreContext context{messages.service, progress, log};
-    test::TempDir dir;
-};
 
 inline RgbaBuffer Flat(int width, int height, Rgba color) {
     RgbaBuffer buffer(width, height);

@@ -1,3 +1,6 @@
+// PNG entries: written as 8-bit RGBA with their own sides, read back the same, decoded only
+// when needed and saved as read until changed, and a broken stream left blank.
+
 #include <gtest/gtest.h>
 
 #include "codec/png/PngCodec.h"
@@ -6,104 +9,67 @@
 #include "document/io/ImageRgba.h"
 #include "document/io/PngEntryEncoder.h"
 #include "support/IcoBuilder.h"
+#include "support/TestImages.h"
 #include "support/TestSupport.h"
+#include "support/WriteReadBack.h"
 
 namespace iw {
 namespace {
 
-struct Fixture {
-    test::MessageFixture messages;
-    NullProgress progress;
-    test::RecordingLog log;
-    CoreContext context{messages.service, progress, log};
-    test::TempDir dir;
-};
-
-void PaintGradient(IconImage& image) {
-    for (int y = 0; y < image.info.Height(); ++y) {
-        for (int x = 0; x < image.info.Width(); ++x) {
-            image.Color(x, y) = PackColor(x, y, (x * y) & 0xFF);
-            image.Alpha(x, y) = (x + y) & 0xFF;
-        }
-    }
-}
-
-test::EntrySpec GradientPngEntry(int width, int height) {
-    std::vector<std::uint8_t> rgba;
+// A PNG-compressed image of its own colours with alpha rising across it (no markers: a PNG
+// entry holds colours).
+IconImage PngImage(int width, int height) {
+    IconImage image = test::MakeImage(width, height, 32, test::PatternColor);
+    image.info.png = 1;
     for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            rgba.insert(rgba.end(), {static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y),
-                                     static_cast<std::uint8_t>(x ^ y),
-                                     static_cast<std::uint8_t>((x * 7 + y) & 0xFF)});
-        }
+        for (int x = 0; x < width; ++x)
+            image.Alpha(x, y) = (x + y) & 0xFF;
     }
-    test::EntrySpec entry;
-    entry.width = width;
-    entry.height = height;
-    EXPECT_TRUE(EncodePngStream(width, height, rgba, entry.data));
-    return entry;
+    return image;
 }
 
+// A 256 px entry is written as 0 in the directory; a 48 x 33 one keeps its own sides. An
+// unchanged image read back is written from the bytes it was read from.
 TEST(PngEntries, RoundTripThroughWriterAndReader) {
-    Fixture f;
-    IconSet set;
-    set.AddIcon(255, 255, 32);
-    set.Info(0).png = 1;
-    PaintGradient(set.Image(0));
-    set.AddIcon(47, 32, 32);  // 48 wide, 33 high: a PNG entry keeps its own sides
-    set.Info(1).png = 1;
-    PaintGradient(set.Image(1));
-    auto path = (f.dir / "p.ico").string();
+    test::CoreFixture f;
+    IconSet set = test::SetOf(PngImage(256, 256));
+    set.InsertIcon(1, PngImage(48, 33));
+    const auto path = (f.dir / "p.ico").string();
     ASSERT_TRUE(WriteIconFile(path, set, f.context));
-    EXPECT_NE(std::find(f.log.entries.begin(), f.log.entries.end(), "I_AI"), f.log.entries.end());
-    test::Bytes b = test::ReadFileBytes(path);
-    EXPECT_EQ(b[6], 0);  // 256 written as 0
-    EXPECT_EQ(b[6 + 16 + 0], 48);
-    EXPECT_EQ(b[6 + 16 + 1], 33);
-
+    const test::Bytes b = test::ReadFileBytes(path);
+    EXPECT_EQ(std::tuple(b[6], b[7], b[22], b[23]), std::tuple(0, 0, 48, 33));
     IconSet back;
     ASSERT_TRUE(ReadIconFile(path, back, f.context));
     ASSERT_EQ(back.Count(), 2);
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(back.Info(i).png, 1);
-        EXPECT_EQ(back.Info(i).Width(), set.Info(i).Width());
-        EXPECT_EQ(back.Info(i).Height(), set.Info(i).Height());
-        for (int y = 0; y < set.Info(i).Height(); ++y) {
-            for (int x = 0; x < set.Info(i).Width(); ++x) {
-                ASSERT_EQ(std::as_const(back).Image(i).Color(x, y), set.Image(i).Color(x, y));
-                ASSERT_EQ(std::as_const(back).Image(i).Alpha(x, y), set.Image(i).Alpha(x, y));
-            }
-        }
+        EXPECT_EQ(std::tuple(back.Info(i).png, back.Info(i).Width(), back.Info(i).Height()),
+                  std::tuple(std::int16_t{1}, set.Info(i).Width(), set.Info(i).Height()));
+        EXPECT_TRUE(test::SamePixels(std::as_const(back).Image(i), set.Image(i)));
     }
-    // Looking at the pixels kept the bytes; an unchanged image is written from them.
     EXPECT_FALSE(back.Image(0).OriginalPng().empty());
-    auto again = (f.dir / "again.ico").string();
-    ASSERT_TRUE(WriteIconFile(again, back, f.context));
-    EXPECT_EQ(test::ReadFileBytes(again), b);
+    ASSERT_TRUE(WriteIconFile((f.dir / "again.ico").string(), back, f.context));
+    EXPECT_EQ(test::ReadFileBytes(f.dir / "again.ico"), b);
 }
 
 // Windows reads the PNG of an icon entry as 32-bit ARGB only, so an entry is always written
 // as 8-bit RGBA, even where a palette or a colour key would hold its pixels exactly.
 TEST(PngEntries, AreWrittenAsEightBitRgba) {
-    IconImage image;
-    image.info = {15, 15, 32, 0, 1};
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 16; ++x) {
-            image.Color(x, y) = x < 8 ? PackColor(255, 0, 0) : 0;
-            image.Alpha(x, y) = x < 8 ? 255 : 0;
-        }
-    }
+    IconImage image = test::MakeImage(
+        16, 16, 32, [](int x, int) { return x < 8 ? PackColor(255, 0, 0) : TransparentColor; });
+    image.info.png = 1;
     const std::vector<std::uint8_t> stream = EncodePngEntry(image);
     ASSERT_GT(stream.size(), 26u);
-    EXPECT_EQ(stream[24], 8);  // IHDR bit depth
-    EXPECT_EQ(stream[25], 6);  // IHDR colour type: RGBA
+    EXPECT_EQ(std::pair(stream[24], stream[25]), (std::pair<std::uint8_t, std::uint8_t>(8, 6)));
 }
 
 // An entry is decoded only when its pixels are needed, and saved as the bytes it was read
 // from until somebody changes it: also when its data turns out corrupt (it then shows blank).
 TEST(PngEntries, AreDecodedWhenNeededAndSavedAsReadUntilChanged) {
-    Fixture f;
-    const test::EntrySpec good = GradientPngEntry(40, 24);
+    test::CoreFixture f;
+    test::EntrySpec good;
+    good.width = 40, good.height = 24;
+    const IconImage picture = PngImage(40, 24);
+    ASSERT_TRUE(EncodePngStream(40, 24, ImageToRgba(picture), good.data));
     test::EntrySpec corrupt = good;
     corrupt.data.resize(corrupt.data.size() - 20);  // the image data runs past the end
     for (const test::EntrySpec& entry : {good, corrupt}) {
@@ -124,26 +90,19 @@ TEST(PngEntries, AreDecodedWhenNeededAndSavedAsReadUntilChanged) {
 }
 
 TEST(PngEntries, BrokenStreamStaysBlankAndTheReadGoesOn) {
-    Fixture f;
-    IconSet set;
-    set.AddIcon(15, 15, 32);
-    set.Info(0).png = 1;
-    PaintGradient(set.Image(0));
-    set.AddIcon(15, 15, 24);
-    PaintGradient(set.Image(1));
-    auto path = f.dir / "broken.ico";
-    ASSERT_TRUE(WriteIconFile(path.string(), set, f.context));
-    test::Bytes b = test::ReadFileBytes(path);
-    const std::size_t pngAt = b[6 + 12] | (b[6 + 13] << 8);
+    IconSet set = test::SetOf(PngImage(16, 16));
+    set.InsertIcon(1, test::MakeImage(16, 16, 24, test::PatternColor));
+    test::SilentContext context;
+    test::Bytes b = EncodeIconFile(set, context.core).value();
+    const std::size_t pngAt = LoadLE32(&b[6 + 12]);
     b[pngAt + 20] ^= 0xFF;  // inside IHDR: its CRC no longer matches or its size is wrong
     b[pngAt + 40] ^= 0xFF;
-    test::WriteFileBytes(path, b);
     IconSet back;
-    ASSERT_TRUE(ReadIconFile(path.string(), back, f.context));
+    ASSERT_TRUE(ReadIconData(b, "broken.ico", back, context.progress).Ok());
     ASSERT_EQ(back.Count(), 2);
     EXPECT_EQ(back.Info(0).png, 1);
     EXPECT_TRUE(back.Image(0).OriginalPng().empty());
-    EXPECT_EQ(back.Image(1).Color(3, 4), set.Image(1).Color(3, 4));
+    EXPECT_EQ(back.Image(1).Color(3, 4), test::PatternColor(3, 4));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace iw {
 namespace {
 
 using test::ReadPng;
-using Fixture = test::PictureFixture;
+using Fixture = test::CoreFixture;
 
 TEST(PngExport, EveryImageAsItShowsAndNoSilentReplacing) {
     Fixture f;

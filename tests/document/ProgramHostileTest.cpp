@@ -68,118 +68,87 @@ TEST(ProgramHostile, TheBuiltProgramReadsBothGroups) {
     }
 }
 
+using Lie = std::function<void(Built&)>;
+using Names = std::vector<std::string>;
+
 struct HostileCase {
     const char* what;
-    std::function<void(Built&)> lie;
-    bool program = false;  // still taken for a PE image
-    bool refused = false;  // the resource tree as a whole
-    std::vector<std::string> groups = {};
-    bool iconPresent = false;  // the icon group's image found
+    bool program;      // still taken for a PE image
+    bool refused;      // the resource tree as a whole
+    Names groups;      // the groups still listed
+    bool iconPresent;  // the icon group's image found
+    Lie lie;
 };
+
+std::uint16_t SectionWord(const Built& b, std::uint32_t at) {
+    return static_cast<std::uint16_t>(b.file[InSection(at)] | (b.file[InSection(at) + 1] << 8));
+}
 
 // Offsets into the built section: the root lists RT_ICON, RT_CURSOR, RT_GROUP_ICON and
 // RT_GROUP_CURSOR in that order; resource i's data entry and data as the layout says.
+const Names kNone, kBoth = {"1", "ARROW"}, kArrow = {"ARROW"}, kIcon = {"1"};
+const std::uint32_t kSection = test::SectionHeaderOffset();
 const HostileCase kHostile[] = {
-    {"e_lfanew past the end", [](Built& b) { PutLE32(b.file, 0x3C, 0x7FFF'FFF0); }, false},
-    {"e_lfanew into the last bytes",
-     [](Built& b) { PutLE32(b.file, 0x3C, static_cast<std::uint32_t>(b.file.size() - 3)); }, false},
-    {"200 sections", [](Built& b) { PutLE16(b.file, test::kPeOffset + 6, 200); }, false},
-    {"section table past the end",
-     [](Built& b) { PutLE16(b.file, test::kPeOffset + 4 + 16, 0xFFF0); }, false},
-    {"unknown optional header magic",
-     [](Built& b) { PutLE16(b.file, test::kPeOffset + 24, 0x107); }, false},
-    {"raw size far beyond the file",
-     [](Built& b) { PutLE32(b.file, test::SectionHeaderOffset() + 16, 0x7FFF'FFFF); },
-     true,
-     false,
-     {"1", "ARROW"},
-     true},
-    {"raw pointer past the end",
-     [](Built& b) { PutLE32(b.file, test::SectionHeaderOffset() + 20, 0xFFFF'FF00); }, true, true},
-    {"virtual size of 16 bytes",
-     [](Built& b) { PutLE32(b.file, test::SectionHeaderOffset() + 8, 16); }, true, true},
-    {"section at the top of the address space",
-     [](Built& b) { PutLE32(b.file, test::SectionHeaderOffset() + 12, 0xFFFF'FFF0); }, true, true},
-    {"resource directory outside every section",
-     [](Built& b) { PutLE32(b.file, test::kPeOffset + 24 + 112 + 16, 0x0090'0000); }, true, true},
-    {"root lists itself",
-     [](Built& b) { PutLE32(b.file, InSection(16 + 8 * 2 + 4), 0x8000'0000u); }, true, true},
-    {"name directory lists its type directory",
+    {"e_lfanew past the end", false, false, kNone, false,
+     [](Built& b) { PutLE32(b.file, 0x3C, 0x7FFF'FFF0); }},
+    {"e_lfanew into the last bytes", false, false, kNone, false,
+     [](Built& b) { PutLE32(b.file, 0x3C, static_cast<std::uint32_t>(b.file.size() - 3)); }},
+    {"200 sections", false, false, kNone, false,
+     [](Built& b) { PutLE16(b.file, test::kPeOffset + 6, 200); }},
+    {"section table past the end", false, false, kNone, false,
+     [](Built& b) { PutLE16(b.file, test::kPeOffset + 4 + 16, 0xFFF0); }},
+    {"unknown optional header magic", false, false, kNone, false,
+     [](Built& b) { PutLE16(b.file, test::kPeOffset + 24, 0x107); }},
+    {"raw size far beyond the file", true, false, kBoth, true,
+     [](Built& b) { PutLE32(b.file, kSection + 16, 0x7FFF'FFFF); }},
+    {"raw pointer past the end", true, true, kNone, false,
+     [](Built& b) { PutLE32(b.file, kSection + 20, 0xFFFF'FF00); }},
+    {"virtual size of 16 bytes", true, true, kNone, false,
+     [](Built& b) { PutLE32(b.file, kSection + 8, 16); }},
+    {"section at the top of the address space", true, true, kNone, false,
+     [](Built& b) { PutLE32(b.file, kSection + 12, 0xFFFF'FFF0); }},
+    {"resource directory outside every section", true, true, kNone, false,
+     [](Built& b) { PutLE32(b.file, test::kPeOffset + 24 + 112 + 16, 0x0090'0000); }},
+    {"root lists itself", true, true, kNone, false,
+     [](Built& b) { PutLE32(b.file, InSection(16 + 8 * 2 + 4), 0x8000'0000u); }},
+    {"name directory lists its type directory", true, true, kNone, false,
      [](Built& b) {
-         PutLE32(b.file, InSection(b.layout.typeDirectories[2] + 16 + 4),
-                 0x8000'0000u | b.layout.typeDirectories[2]);
-     },
-     true, true},
-    {"two names share a language directory",
+         const std::uint32_t type = b.layout.typeDirectories[2];
+         PutLE32(b.file, InSection(type + 16 + 4), 0x8000'0000u | type);
+     }},
+    {"two names share a language directory", true, true, kNone, false,
      [](Built& b) {
          PutLE32(b.file, InSection(b.layout.typeDirectories[3] + 16 + 4),
                  0x8000'0000u | b.layout.languageDirectories[2]);
-     },
-     true, true},
-    {"root claims 65535 + 65535 entries",
+     }},
+    {"root claims 65535 + 65535 entries", true, true, kNone, false,
      [](Built& b) {
          PutLE16(b.file, InSection(12), 0xFFFF);
          PutLE16(b.file, InSection(14), 0xFFFF);
-     },
-     true, true},
-    {"type directory claims more than the section holds",
-     [](Built& b) { PutLE16(b.file, InSection(b.layout.typeDirectories[0] + 14), 0x4000); }, true,
-     true},
-    {"language entry is a directory (a fourth level)",
+     }},
+    {"type directory claims more than the section holds", true, true, kNone, false,
+     [](Built& b) { PutLE16(b.file, InSection(b.layout.typeDirectories[0] + 14), 0x4000); }},
+    {"language entry is a directory (a fourth level)", true, false, kArrow, false,
      [](Built& b) {
          PutLE32(b.file, InSection(b.layout.languageDirectories[2] + 16 + 4), 0x8000'0000u);
-     },
-     true,
-     false,
-     {"ARROW"},
-     false},
-    {"group directory outside every section",
-     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[2]), 0x0090'0000); },
-     true,
-     false,
-     {"ARROW"},
-     false},
-    {"group directory claims 65535 images",
-     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 4), 0xFFFF); },
-     true,
-     false,
-     {"1", "ARROW"},
-     true},
-    {"group directory of the wrong type",
-     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 2), 2); },
-     true,
-     false,
-     {"ARROW"},
-     false},
-    {"icon image outside every section",
-     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[0]), 0x7000'0000); },
-     true,
-     false,
-     {"1", "ARROW"},
-     false},
-    {"icon image size beyond the section",
-     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[0] + 4), 0xFFFF'FFF0); },
-     true,
-     false,
-     {"1", "ARROW"},
-     false},
-    {"group names an image that is not there",
-     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 6 + 12), 99); },
-     true,
-     false,
-     {"1", "ARROW"},
-     false},
-    {"name string longer than the section",
+     }},
+    {"group directory outside every section", true, false, kArrow, false,
+     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[2]), 0x0090'0000); }},
+    {"group directory claims 65535 images", true, false, kBoth, true,
+     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 4), 0xFFFF); }},
+    {"group directory of the wrong type", true, false, kArrow, false,
+     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 2), 2); }},
+    {"icon image outside every section", true, false, kBoth, false,
+     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[0]), 0x7000'0000); }},
+    {"icon image size beyond the section", true, false, kBoth, false,
+     [](Built& b) { PutLE32(b.file, InSection(b.layout.dataEntries[0] + 4), 0xFFFF'FFF0); }},
+    {"group names an image that is not there", true, false, kBoth, false,
+     [](Built& b) { PutLE16(b.file, InSection(b.layout.data[2] + 6 + 12), 99); }},
+    {"name string longer than the section", true, false, kIcon, true,
      [](Built& b) {
-         const std::uint32_t entry = b.layout.typeDirectories[3] + 16;
-         const std::uint32_t string =
-             b.file[InSection(entry)] | (b.file[InSection(entry) + 1] << 8);
+         const std::uint32_t string = SectionWord(b, b.layout.typeDirectories[3] + 16);
          PutLE16(b.file, InSection(string), 0xFFFF);
-     },
-     true,
-     false,
-     {"1"},
-     true},
+     }},
 };
 
 TEST(ProgramHostile, LyingFilesAreRefusedOrLoseOnlyWhatLies) {

@@ -44,10 +44,8 @@ void ExpectSameImages(const IconSet& read, const IconSet& source) {
     for (int i = 0; i < read.Count(); ++i) {
         SCOPED_TRACE("image " + std::to_string(i));
         const IconInfo &a = read.Info(i), &b = source.Info(i);
-        EXPECT_EQ(a.widthMinus1, b.widthMinus1);
-        EXPECT_EQ(a.heightMinus1, b.heightMinus1);
-        EXPECT_EQ(a.bitCount, b.bitCount);
-        EXPECT_EQ(a.png, b.png);
+        EXPECT_EQ(std::tie(a.widthMinus1, a.heightMinus1, a.bitCount, a.png),
+                  std::tie(b.widthMinus1, b.heightMinus1, b.bitCount, b.png));
         EXPECT_EQ(read.Image(i).OriginalPng(), source.Image(i).OriginalPng());
         EXPECT_TRUE(test::SamePixels(read.Image(i), source.Image(i)));
     }
@@ -80,20 +78,16 @@ TEST(ProgramIcons, EveryGroupReadsAsTheFileItWasMadeFrom) {
             SCOPED_TRACE(std::string(library) + " group " + c.name);
             const int index = program->Table().Find(c.kind, c.name);
             ASSERT_GE(index, 0);
-            test::MessageFixture messages;
-            NullProgress progress;
-            NullLog log;
-            CoreContext context{messages.service, progress, log};
+            test::CoreFixture core;
             IconSet set;
-            ASSERT_TRUE(program->ReadGroup(index, c.language, set, context));
+            ASSERT_TRUE(program->ReadGroup(index, c.language, set, core.context));
             const ReadFile source = ReadSource(c.source);
             ExpectSameImages(set, source.set);
             EXPECT_EQ(set.mode, c.kind == ResourceGroupKind::Icon ? FileMode::ICO : FileMode::CUR);
-            EXPECT_EQ(set.properties.hotspotX, source.set.properties.hotspotX);
-            EXPECT_EQ(set.properties.hotspotY, source.set.properties.hotspotY);
+            EXPECT_EQ(std::tie(set.properties.hotspotX, set.properties.hotspotY),
+                      std::tie(source.set.properties.hotspotX, source.set.properties.hotspotY));
             // "Bad16Icons" exactly when the icon file has the same to say.
-            EXPECT_EQ(messages.presenter.shown.size(),
-                      source.result.nonStandard16Converted ? 1u : 0u);
+            EXPECT_EQ(core.presenter.shown.size(), source.result.nonStandard16Converted ? 1u : 0u);
 
             // The listing says what the read gave (a 4-bit image as stored, before the
             // 16-colour check).
@@ -103,9 +97,9 @@ TEST(ProgramIcons, EveryGroupReadsAsTheFileItWasMadeFrom) {
             for (int i = 0; i < set.Count(); ++i) {
                 const ResourceImageSummary& s = group.images[static_cast<std::size_t>(i)];
                 EXPECT_TRUE(s.present);
-                EXPECT_EQ(s.width, set.Info(i).Width());
-                EXPECT_EQ(s.height, set.Info(i).Height());
-                EXPECT_EQ(s.png, set.Info(i).png != 0);
+                EXPECT_EQ(
+                    std::tuple(s.width, s.height, s.png),
+                    std::tuple(set.Info(i).Width(), set.Info(i).Height(), set.Info(i).png != 0));
                 EXPECT_EQ(s.bitCount == 4 && source.result.nonStandard16Converted ? 8 : s.bitCount,
                           set.Info(i).bitCount);
             }
@@ -129,8 +123,8 @@ TEST(ProgramIcons, ListsIconGroupsThenCursorGroupsInTableOrder) {
                                                    "cursor POINTER", "cursor 7"}));
         EXPECT_TRUE(table->Groups()[0].name.isText);
         EXPECT_EQ(table->Groups()[1].languages, (std::vector<std::uint16_t>{1031, 1033}));
-        EXPECT_EQ(table->Groups()[5].images.at(0).hotspotX, 5);
-        EXPECT_EQ(table->Groups()[5].images.at(0).hotspotY, 7);
+        const ResourceImageSummary& cursor = table->Groups()[5].images.at(0);
+        EXPECT_EQ(std::pair(cursor.hotspotX, cursor.hotspotY), std::pair(5, 7));
     }
 }
 
@@ -155,8 +149,8 @@ TEST(ProgramIcons, OpeningTakesTheGroupAFileManagerShows) {
         EXPECT_EQ(read.set.mode, c.mode);
         const ReadFile source = ReadSource(c.source);
         ExpectSameImages(read.set, source.set);
-        EXPECT_EQ(read.set.properties.hotspotX, source.set.properties.hotspotX);
-        EXPECT_EQ(read.set.properties.hotspotY, source.set.properties.hotspotY);
+        EXPECT_EQ(std::tie(read.set.properties.hotspotX, read.set.properties.hotspotY),
+                  std::tie(source.set.properties.hotspotX, source.set.properties.hotspotY));
         EXPECT_EQ(test::CheckWriteAndReadBack(read.set), "");
     }
 }
@@ -169,14 +163,10 @@ TEST(ProgramIcons, AGroupTheFileDoesNotHaveIsACorruptFile) {
     EXPECT_EQ(read.result.status, IconReadStatus::NoSuchGroup);
     EXPECT_TRUE(read.set.Empty());
 
-    test::MessageFixture messages;
-    NullProgress progress;
-    NullLog log;
-    CoreContext context{messages.service, progress, log};
+    test::CoreFixture core;
     IconSet set;
-    EXPECT_FALSE(ReadIconFile(ProgramPath("noicons64.dll").string(), {3, {}}, set, context));
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].key, "CorruptFile");
+    EXPECT_FALSE(ReadIconFile(ProgramPath("noicons64.dll").string(), {3, {}}, set, core.context));
+    EXPECT_EQ(core.presenter.Keys(), std::vector<std::string>{"CorruptFile"});
 }
 
 TEST(ProgramIcons, TellsProgramsByTheirHeaders) {

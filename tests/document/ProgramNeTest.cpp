@@ -109,27 +109,25 @@ TEST(ProgramNe, GroupsReadAsInAPeImage) {
 
 struct NeCase {
     const char* what;
+    bool refused;
+    std::vector<std::string> groups;
+    bool iconPresent;
     std::function<void(Bytes&)> lie;
-    bool refused = false;
-    std::vector<std::string> groups = {};
-    bool iconPresent = false;
 };
 
+const std::vector<std::string> kNone, kBoth = {"MAIN", "5"}, kCursor = {"5"};
 const NeCase kLies[] = {
-    {"a shift of 30 bits", [](Bytes& f) { PutLE16(f, kTable, 30); }, true},
-    {"a type claims 65535 resources", [](Bytes& f) { PutLE16(f, kTable + 2 + 2, 0xFFFF); }, true},
-    {"the table ends before its terminator",
-     [](Bytes& f) { PutLE16(f, kNe + 0x26, static_cast<std::uint16_t>(kTable - kNe + 20)); }, true},
-    {"the resident names before the table", [](Bytes& f) { PutLE16(f, kNe + 0x26, 0x10); }, true},
-    {"the icon's data past the end of the file",
-     [](Bytes& f) { PutLE16(f, EntryOf(0), 0xFFF0); },
-     false,
-     {"MAIN", "5"},
-     false},
-    {"the group's name past the table",
-     [](Bytes& f) { PutLE16(f, EntryOf(2) + 6, 0x7000); },
-     false,
-     {"5"}},
+    {"a shift of 30 bits", true, kNone, false, [](Bytes& f) { PutLE16(f, kTable, 30); }},
+    {"a type claims 65535 resources", true, kNone, false,
+     [](Bytes& f) { PutLE16(f, kTable + 2 + 2, 0xFFFF); }},
+    {"the table ends before its terminator", true, kNone, false,
+     [](Bytes& f) { PutLE16(f, kNe + 0x26, static_cast<std::uint16_t>(kTable - kNe + 20)); }},
+    {"the resident names before the table", true, kNone, false,
+     [](Bytes& f) { PutLE16(f, kNe + 0x26, 0x10); }},
+    {"the icon's data past the end of the file", false, kBoth, false,
+     [](Bytes& f) { PutLE16(f, EntryOf(0), 0xFFF0); }},
+    {"the group's name past the table", false, kCursor, false,
+     [](Bytes& f) { PutLE16(f, EntryOf(2) + 6, 0x7000); }},
 };
 
 TEST(ProgramNe, LyingTablesAreRefusedOrLoseOnlyWhatLies) {

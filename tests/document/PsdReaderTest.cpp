@@ -68,28 +68,25 @@ TEST(PsdReader, MergedTransparencyIsTakenOffWhite) {
 }
 
 TEST(PsdReader, OtherColorModelsAreReadOnlyWhenAccepted) {
+    using Sample = std::function<int(int, int, int)>;
     struct Case {
         int mode, channels, depth;
-        std::function<int(int, int, int)> sample;
         std::vector<std::uint8_t> colorModeData;
         Rgba expected;  // at (1, 0)
+        Sample sample;
     };
+    const std::vector<std::uint8_t> none;
     std::vector<std::uint8_t> palette(768);
     palette[5] = 10, palette[256 + 5] = 20, palette[512 + 5] = 30;
     const Case cases[] = {
-        {1, 1, 8, [](int, int, int) { return 77; }, {}, {77, 77, 77, 255}},
-        {8, 1, 8, [](int, int, int) { return 9; }, {1, 2, 3}, {9, 9, 9, 255}},
-        {2, 1, 8, [](int, int, int) { return 5; }, palette, {10, 20, 30, 255}},
-        {0, 1, 1, [](int, int x, int) { return x == 1; }, {}, {0, 0, 0, 255}},
-        {4,
-         4,
-         8,
-         [](int c, int, int) { return c == 3 ? 255 : (c == 0 ? 0 : 255); },
-         {},
-         {0, 255, 255, 255}},
-        {9, 3, 8, [](int c, int, int) { return c == 0 ? 255 : 128; }, {}, {255, 255, 255, 255}},
-        {9, 3, 8, [](int c, int, int) { return c == 0 ? 0 : 128; }, {}, {0, 0, 0, 255}},
-        {7, 3, 8, [](int c, int, int) { return 10 + c; }, {}, {10, 11, 12, 255}},
+        {1, 1, 8, none, {77, 77, 77, 255}, [](int, int, int) { return 77; }},
+        {8, 1, 8, {1, 2, 3}, {9, 9, 9, 255}, [](int, int, int) { return 9; }},
+        {2, 1, 8, palette, {10, 20, 30, 255}, [](int, int, int) { return 5; }},
+        {0, 1, 1, none, {0, 0, 0, 255}, [](int, int x, int) { return x == 1; }},
+        {4, 4, 8, none, {0, 255, 255, 255}, [](int c, int, int) { return c == 0 ? 0 : 255; }},
+        {9, 3, 8, none, {255, 255, 255, 255}, [](int c, int, int) { return c ? 128 : 255; }},
+        {9, 3, 8, none, {0, 0, 0, 255}, [](int c, int, int) { return c ? 128 : 0; }},
+        {7, 3, 8, none, {10, 11, 12, 255}, [](int c, int, int) { return 10 + c; }},
     };
     for (const Case& c : cases) {
         test::PsdSpec spec;

@@ -14,14 +14,6 @@ namespace {
 
 using Cells = std::set<std::pair<int, int>>;
 
-IconImage Image(int side, int bits) {
-    IconImage image;
-    image.info.widthMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.heightMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.bitCount = static_cast<std::int16_t>(bits);
-    return image;
-}
-
 Cells Footprint(std::string_view shape) {
     Cells cells;
     for (const Point& p : BrushPoints(shape, 0, 0))
@@ -41,8 +33,8 @@ Cells Painted(const IconImage& image, PackedColor color) {
 }
 
 TEST(PlotPixel, StoresTheColourAsGivenAlphaOnlyAt32BitsAndDropsPointsOutside) {
-    IconImage deep = Image(16, 32);
-    IconImage mono = Image(16, 1);
+    IconImage deep = test::MakeImage(16, 16, 32);
+    IconImage mono = test::MakeImage(16, 16, 1);
     mono.Alpha(3, 4) = 77;
     deep.KeepOriginalPng({1, 2, 3});
     EXPECT_FALSE(PlotPixel(deep, 99, 99, 5, 255));
@@ -85,7 +77,7 @@ TEST(BrushFootprint, SquaresAreBlocksAndCirclesNestSymmetrically) {
 }
 
 TEST(BrushStamp, DropsPointsOutsideTheImageAndPaintsTheRest) {
-    IconImage image = Image(16, 32);
+    IconImage image = test::MakeImage(16, 16, 32);
     StampBrush(image, "LSquare", 0, 0, 9, 255);
     EXPECT_EQ(Painted(image, 9).size(), 9u);  // the 3 x 3 quarter inside
     StampBrush(image, "SCircle", -1, 8, 7, 255);
@@ -97,7 +89,7 @@ TEST(BrushStamp, DropsPointsOutsideTheImageAndPaintsTheRest) {
 }
 
 TEST(BrushStroke, LeavesNoGapsBetweenDistantPoints) {
-    IconImage image = Image(32, 32);
+    IconImage image = test::MakeImage(32, 32, 32);
     StampBrush(image, "SSquare", 0, 0, 9, 255);
     BrushStroke(image, "SSquare", {0, 0}, {20, 10}, 9, 255);
     std::set<int> columns;
@@ -128,7 +120,7 @@ TEST(Airbrush, StaysWithinItsRadiusAndDropsDotsOutsideTheImage) {
         for (const Point& dot : SprayPoints(50, 60, radius, always))
             EXPECT_LE(std::hypot(dot.x - 50, dot.y - 60), radius + 0.75);
     }
-    IconImage image = Image(16, 32);
+    IconImage image = test::MakeImage(16, 16, 32);
     Spray(image, 0, 0, 4, 9, 255, always);
     const Cells painted = Painted(image, 9);
     EXPECT_TRUE(painted.count({0, 0}) && painted.count({4, 0}) && painted.count({0, 4}));

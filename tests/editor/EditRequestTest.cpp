@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
-#include "document/io/IconFileWriter.h"
 
 namespace iw {
 namespace {
@@ -26,31 +25,25 @@ struct EditRequest : ::testing::Test {
                request.GetValue("Request\\SavedPath", "-") + " " +
                request.GetValue("Request\\Program", "-");
     }
-    void Draw() {
-        f.editor.Tools().SelectTool(ToolId::Pencil);
-        f.Stroke({{1, 1}});
-    }
 
     test::BasicEditorFixture<FileDocumentStore> f;
     Editor& editor = f.editor;
 };
 
 TEST_F(EditRequest, SaveWritesTheRequestedIconAndTheEndOfTheRequestAnswers) {
-    const std::string icon = f.PathFor("app.ico");
-    test::MessageFixture messages;
-    CoreContext context{messages.service, f.progress, f.log};
-    ASSERT_TRUE(WriteIconFile(icon, test::SolidSet(16, 32, PackColor(9, 9, 9)), context));
+    const std::string icon = f.WriteIcon("app.ico", test::SolidSet(16, 32, PackColor(9, 9, 9)));
     const std::string request = Request(icon);
     editor.RunStartup(request, f.folders);
     EXPECT_EQ(f.view.editRequestText, "You are editing an icon for Paint & Co");
     EXPECT_EQ(editor.Document().FileName(), icon);
-    Draw();
+    f.Draw({1, 1});
     ASSERT_TRUE(editor.Document().Save());
     EXPECT_EQ(Answer(request), "- - Paint & Co");  // not answered before the end
     editor.Shutdown();
     EXPECT_EQ(Answer(request), "Saved " + icon + " Paint & Co");
     IconSet saved;
-    ASSERT_TRUE(f.documents.Read(icon, saved, context));
+    test::CoreFixture core;
+    ASSERT_TRUE(f.documents.Read(icon, saved, core.context));
     EXPECT_EQ(saved.Image(0).Color(1, 1), PackColor(0, 0, 0));
 
     // A missing file starts in its mode; Save As elsewhere and another document end it.
@@ -80,8 +73,7 @@ TEST_F(EditRequest, AFileThatIsNoRequestIsReportedAndLeftAlone) {
         f.presenter.shown.clear();
         EXPECT_FALSE(editor.HandleCommandLine(bad));
         ASSERT_EQ(f.presenter.shown.size(), 1u);
-        EXPECT_EQ(f.presenter.shown[0].text,
-                  "This file cannot be found or the command is invalid.\n" + bad);
+        EXPECT_TRUE(f.presenter.shown[0].text.ends_with("\n" + bad));
     }
     EXPECT_EQ(test::ReadFileBytes(f.temp / "bad.xml"), notXml);
     EXPECT_EQ(Answer(noFile), "- - Paint & Co");

@@ -10,11 +10,13 @@
 #include <string>
 #include <vector>
 
+#include "document/io/IconFileWriter.h"
 #include "document/model/IconSet.h"
 #include "editor/Airbrush.h"
 #include "editor/DocumentStore.h"
 #include "editor/Editor.h"
 #include "editor/MainWindowView.h"
+#include "support/TestImages.h"
 #include "support/TestSupport.h"
 
 namespace iw::test {
@@ -143,6 +145,17 @@ struct BasicEditorFixture {
             canvas.PointerMove(path[i]);
         canvas.PointerRelease(path.back());
     }
+    // One pixel drawn with the Pencil.
+    void Draw(Point at) {
+        editor.Tools().SelectTool(ToolId::Pencil);
+        Stroke({at});
+    }
+    // Writes `set` as the real icon file `name` and returns its path.
+    std::string WriteIcon(const std::string& name, const IconSet& set) {
+        CoreFixture core;
+        EXPECT_TRUE(WriteIconFile(PathFor(name), set, core.context));
+        return PathFor(name);
+    }
 
     TempDir temp;
     StartupFolders folders;
@@ -157,31 +170,5 @@ struct BasicEditorFixture {
 };
 
 using EditorFixture = BasicEditorFixture<FakeDocumentStore>;
-
-// A set of one image of the given size and depth, pixel (x, y) colourAt(x, y), alpha 255.
-template <typename ColorAt>
-IconSet FilledSet(int side, int bits, ColorAt colorAt) {
-    IconSet set;
-    const int index = set.AddIcon(side - 1, side - 1, bits);
-    for (int x = 0; x < side; ++x) {
-        for (int y = 0; y < side; ++y) {
-            set.Image(index).Color(x, y) = colorAt(x, y);
-            set.Image(index).Alpha(x, y) = 255;
-        }
-    }
-    return set;
-}
-
-inline IconSet SolidSet(int side, int bits, PackedColor color) {
-    return FilledSet(side, bits, [color](int, int) { return color; });
-}
-
-// Every pixel its own colour: (x, y, 50).
-inline PackedColor PatternColor(int x, int y) {
-    return PackColor(x, y, 50);
-}
-inline IconSet PatternSet(int side, int bits) {
-    return FilledSet(side, bits, PatternColor);
-}
 
 }  // namespace iw::test

@@ -2,22 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "editor/FloodFill.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
 
 IconImage Filled(int width, int height, int bits, PackedColor color, int alpha) {
-    IconImage image;
-    image.info.widthMinus1 = static_cast<std::int16_t>(width - 1);
-    image.info.heightMinus1 = static_cast<std::int16_t>(height - 1);
-    image.info.bitCount = static_cast<std::int16_t>(bits);
-    for (int x = 0; x < width; ++x) {
-        for (int y = 0; y < height; ++y) {
-            image.Color(x, y) = color;
-            image.Alpha(x, y) = alpha;
-        }
-    }
-    return image;
+    return test::MakeImage(
+        width, height, bits, [color](int, int) { return color; }, alpha);
 }
 
 constexpr PackedColor kRed = PackColor(255, 0, 0);

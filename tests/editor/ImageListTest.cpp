@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
-#include "document/io/IconFileWriter.h"
 #include "editor/DepthConversion.h"
 #include "editor/IconFormats.h"
 #include "imaging/ColorMapping.h"
@@ -63,12 +62,7 @@ struct ImageList : ::testing::Test {
             sides.push_back(f.editor.Set().Info(i).Width());
         return sides;
     }
-    std::vector<std::string> Keys() const {
-        std::vector<std::string> keys;
-        for (const auto& shown : f.presenter.shown)
-            keys.push_back(shown.key);
-        return keys;
-    }
+    std::vector<std::string> Keys() const { return f.presenter.Keys(); }
 
     test::EditorFixture f;
     ImageListCommands& images = f.editor.Images();
@@ -163,10 +157,7 @@ TEST(ImageListOnFiles, AChangedDepthIsWhatTheWriterWritesAndTheReaderReadsBack) 
         for (int x = 0; x < 12; ++x)
             set.Image(0).Alpha(x, 0) = 100;  // the top row under half covered
         set.Image(0).Color(5, 5) = TransparentColor;
-        const std::string path = f.PathFor("depth.ico");
-        test::MessageFixture messages;
-        CoreContext context{messages.service, f.progress, f.log};
-        ASSERT_TRUE(WriteIconFile(path, set, context));
+        const std::string path = f.WriteIcon("depth.ico", set);
         ASSERT_TRUE(f.editor.Document().OpenDocument(path));
         f.presenter.answer = MessageAnswer::Yes;
         ASSERT_TRUE(f.editor.Images().ChangeAttributes(0, target)) << target.bits;

@@ -6,6 +6,7 @@
 #include "editor/Geometry.h"
 #include "editor/Gradient.h"
 #include "editor/Shapes.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
@@ -66,16 +67,8 @@ TEST(Ellipse, IsSymmetricInsideItsBoxAndTheOutlineIsClosed) {
     EXPECT_TRUE(outline.count({0, 3}) && outline.count({5, 0}));
 }
 
-IconImage Blank(int width, int height, int bits) {
-    IconImage image;
-    image.info.widthMinus1 = static_cast<std::int16_t>(width - 1);
-    image.info.heightMinus1 = static_cast<std::int16_t>(height - 1);
-    image.info.bitCount = static_cast<std::int16_t>(bits);
-    return image;
-}
-
 TEST(Gradient, BlendsChannelsAndAlphaFromForegroundToBackground) {
-    IconImage image = Blank(5, 3, 32);
+    IconImage image = test::MakeImage(5, 3, 32);
     PaintGradient(image, GradientDirection::Horizontal, PackColor(0, 100, 200), 0,
                   PackColor(200, 100, 0));
     EXPECT_EQ(image.Color(0, 1), PackColor(0, 100, 200));
@@ -87,7 +80,7 @@ TEST(Gradient, BlendsChannelsAndAlphaFromForegroundToBackground) {
 }
 
 TEST(Gradient, MapsLowDepthsToTheirPaletteAndSplitsBetweenMarkerEnds) {
-    IconImage image = Blank(16, 16, 4);
+    IconImage image = test::MakeImage(16, 16, 4);
     PaintGradient(image, GradientDirection::Vertical, 0, 255, PackColor(255, 255, 255));
     for (int y = 0; y < 16; ++y) {
         const PackedColor c = image.Color(0, y);
@@ -95,7 +88,7 @@ TEST(Gradient, MapsLowDepthsToTheirPaletteAndSplitsBetweenMarkerEnds) {
                     c == PackColor(255, 255, 255))
             << y;
     }
-    IconImage halves = Blank(4, 4, 8);
+    IconImage halves = test::MakeImage(4, 4, 8);
     PaintGradient(halves, GradientDirection::Vertical, TransparentColor, 255, PackColor(1, 2, 3));
     EXPECT_EQ(halves.Color(0, 1), TransparentColor);
     EXPECT_EQ(halves.Color(0, 2), PackColor(1, 2, 3));

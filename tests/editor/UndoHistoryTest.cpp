@@ -2,17 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "editor/UndoHistory.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
-
-IconImage Image(int side) {
-    IconImage image;
-    image.info.widthMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.heightMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.bitCount = 32;
-    return image;
-}
 
 // One "change": record, then stamp the change's number into a pixel and the alpha plane.
 void Change(UndoHistory& history, IconImage& image, int number) {
@@ -23,7 +16,7 @@ void Change(UndoHistory& history, IconImage& image, int number) {
 
 TEST(UndoHistory, TwentyOneChangesThenTwentyUndosRestoreTheFirstChange) {
     UndoHistory history;
-    IconImage image = Image(16);
+    IconImage image = test::MakeImage(16, 16, 32);
     EXPECT_FALSE(history.UndoEnabled());
     EXPECT_FALSE(history.Undo(image));
     for (int n = 1; n <= 21; ++n)
@@ -43,7 +36,7 @@ TEST(UndoHistory, TwentyOneChangesThenTwentyUndosRestoreTheFirstChange) {
 
 TEST(UndoHistory, RepeatWalksForwardAgain) {
     UndoHistory history;
-    IconImage image = Image(8);
+    IconImage image = test::MakeImage(8, 8, 32);
     EXPECT_FALSE(history.Repeat(image));
     for (int n = 1; n <= 3; ++n)
         Change(history, image, n);
@@ -60,7 +53,7 @@ TEST(UndoHistory, RepeatWalksForwardAgain) {
 
 TEST(UndoHistory, DrawingAfterUndoKeepsRepeatWithTheUndoneImage) {
     UndoHistory history;
-    IconImage image = Image(8);
+    IconImage image = test::MakeImage(8, 8, 32);
     Change(history, image, 1);
     Change(history, image, 2);
     history.Undo(image);  // back to 1; redo level 0 holds 2
@@ -79,7 +72,7 @@ TEST(UndoHistory, DrawingAfterUndoKeepsRepeatWithTheUndoneImage) {
 
 TEST(UndoHistory, CopiesOnlyTheImagesCorner) {
     UndoHistory history;
-    IconImage image = Image(16);
+    IconImage image = test::MakeImage(16, 16, 32);
     image.Color(15, 15) = 1;
     image.Color(16, 0) = 99;  // a store cell outside the image
     history.AddUndo(image);

@@ -12,15 +12,13 @@ namespace iw {
 namespace {
 
 IconImage Image(int side, int bits, PackedColor fill) {
-    IconImage image;
-    image.info.widthMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.heightMinus1 = static_cast<std::int16_t>(side - 1);
-    image.info.bitCount = static_cast<std::int16_t>(bits);
-    for (int x = 0; x < side; ++x) {
-        for (int y = 0; y < side; ++y)
-            image.Color(x, y) = fill;
-    }
-    return image;
+    return test::MakeImage(side, side, bits, [fill](int, int) { return fill; });
+}
+
+// Every field of the tool state, to compare whole states.
+auto Fields(const ToolState& s) {
+    return std::tie(s.CurrentTool, s.BrushShape, s.LineWidth, s.SpraySize, s.ShapeFilled,
+                    s.Gradient, s.Selection, s.ForeColor, s.BackColor, s.CurrentAlpha);
 }
 
 TEST(PaletteStrip, ImageColoursComeColumnByColumnWithoutMarkersOrRepeats) {
@@ -93,17 +91,9 @@ TEST(ToolSettings, TheToolItsOptionsAndColoursComeBackInTheNextRun) {
 
     ToolControls after(events);
     RestoreToolState(store, after);
-    const ToolState& s = after.State();
-    EXPECT_EQ(s.CurrentTool, ToolId::Line);
-    EXPECT_EQ(s.BrushShape, "MCircle");
-    EXPECT_EQ(s.LineWidth, 3);
-    EXPECT_EQ(s.SpraySize, 8);
-    EXPECT_TRUE(s.ShapeFilled);
-    EXPECT_EQ(s.Gradient, GradientDirection::Center);
-    EXPECT_EQ(s.Selection, SelectionMode::Transparent);
-    EXPECT_EQ(s.ForeColor, PackColor(1, 2, 3));
-    EXPECT_EQ(s.BackColor, InverseColor);
-    EXPECT_EQ(s.CurrentAlpha, 77);
+    EXPECT_EQ(Fields(after.State()),
+              std::tuple(ToolId::Line, "MCircle", 3, 8, true, GradientDirection::Center,
+                         SelectionMode::Transparent, PackColor(1, 2, 3), InverseColor, 77));
 }
 
 TEST(ToolSettings, StoredValuesTheControlsDoNotOfferLeaveTheDefaults) {
@@ -124,31 +114,18 @@ TEST(ToolSettings, StoredValuesTheControlsDoNotOfferLeaveTheDefaults) {
     EditorEvents events;
     ToolControls tools(events);
     RestoreToolState(store, tools);
-    const ToolState defaults;
-    const ToolState& s = tools.State();
-    EXPECT_EQ(s.CurrentTool, defaults.CurrentTool);
-    EXPECT_EQ(s.BrushShape, defaults.BrushShape);
-    EXPECT_EQ(s.LineWidth, defaults.LineWidth);
-    EXPECT_EQ(s.SpraySize, defaults.SpraySize);
-    EXPECT_EQ(s.ShapeFilled, defaults.ShapeFilled);
-    EXPECT_EQ(s.Gradient, defaults.Gradient);
-    EXPECT_EQ(s.Selection, defaults.Selection);
-    EXPECT_EQ(s.ForeColor, defaults.ForeColor);
-    EXPECT_EQ(s.BackColor, defaults.BackColor);
-    EXPECT_EQ(s.CurrentAlpha, defaults.CurrentAlpha);
+    EXPECT_EQ(Fields(tools.State()), Fields(ToolState{}));
 }
 
 TEST(ToolSettings, ShutdownWritesThemAndStartupReadsThem) {
-    {
-        test::EditorFixture first;
-        first.editor.RunStartup("", first.folders);
-        first.editor.Tools().SelectTool(ToolId::Ellipse);
-        first.editor.Shutdown();
-        test::EditorFixture second;
-        second.folders = first.folders;
-        second.editor.RunStartup("", second.folders);
-        EXPECT_EQ(second.editor.Tools().State().CurrentTool, ToolId::Ellipse);
-    }
+    test::EditorFixture first;
+    first.editor.RunStartup("", first.folders);
+    first.editor.Tools().SelectTool(ToolId::Ellipse);
+    first.editor.Shutdown();
+    test::EditorFixture second;
+    second.folders = first.folders;
+    second.editor.RunStartup("", second.folders);
+    EXPECT_EQ(second.editor.Tools().State().CurrentTool, ToolId::Ellipse);
 }
 
 struct CheckIcon : ::testing::Test {

@@ -10,17 +10,16 @@
 namespace iw {
 namespace {
 
+// The side less one is tested on purpose: 33 cells of 24 are 792 screen pixels, one cell
+// more than 768, yet (33 - 1) x 24 = 768 passes. The height test runs with the value the
+// width test left.
 TEST(CapPixelSize, CapsLargeImagesTestingTheSideLessOneOnPurpose) {
-    EXPECT_EQ(CapPixelSize(48, 32, 32), 24);  // 31 * 48 = 1488 > 768, 768 / 32 = 24
-    EXPECT_EQ(CapPixelSize(4, 256, 256), 3);  // 255 * 4 = 1020 > 768, 768 / 256 = 3
-    EXPECT_EQ(CapPixelSize(3, 256, 256), 3);  // 255 * 3 = 765 is allowed
-    EXPECT_EQ(CapPixelSize(48, 16, 16), 48);  // 15 * 48 = 720
-    // 33 * 24 = 792 screen pixels: one cell more than 768, yet (33 - 1) * 24 = 768 passes.
-    EXPECT_EQ(CapPixelSize(24, 33, 33), 24);
-    EXPECT_EQ(CapPixelSize(24, 34, 34), 22);
-    // The height test runs with the value the width test left.
-    EXPECT_EQ(CapPixelSize(48, 16, 64), 12);
-    EXPECT_EQ(CapPixelSize(48, 64, 16), 12);
+    const std::tuple<int, int, int, int> cases[] = {
+        {48, 32, 32, 24}, {4, 256, 256, 3}, {3, 256, 256, 3}, {48, 16, 16, 48},
+        {24, 33, 33, 24}, {24, 34, 34, 22}, {48, 16, 64, 12}, {48, 64, 16, 12}};
+    for (const auto& [size, width, height, capped] : cases)
+        EXPECT_EQ(CapPixelSize(size, width, height), capped)
+            << size << " " << width << "x" << height;
 }
 
 TEST(ViewController, FitInWindowTakesTheSmallerQuotientAndStepsTurnItOff) {
@@ -60,28 +59,22 @@ TEST(ViewController, FitInWindowTakesTheSmallerQuotientAndStepsTurnItOff) {
     EXPECT_EQ(CanvasToImage(-1, -17, 16), (Point{-1, -2}));
 }
 
-IconImage OnePixel(int bits, PackedColor color, int alpha) {
-    IconImage image;
-    image.info.widthMinus1 = 0;
-    image.info.heightMinus1 = 0;
-    image.info.bitCount = static_cast<std::int16_t>(bits);
-    image.Color(0, 0) = color;
-    image.Alpha(0, 0) = alpha;
-    return image;
-}
-
 TEST(PixelStatus, NamesMarkersChannelsAndLowDepthColours) {
-    EXPECT_EQ(PixelStatusText(OnePixel(32, TransparentColor, 0), 0, 0), "Transparent");
-    EXPECT_EQ(PixelStatusText(OnePixel(1, InverseColor, 0), 0, 0), "Inverted");
-    EXPECT_EQ(PixelStatusText(OnePixel(24, PackColor(1, 2, 3), 9), 0, 0), "R 1, G 2, B 3");
-    EXPECT_EQ(PixelStatusText(OnePixel(32, PackColor(1, 2, 3), 9), 0, 0), "R 1, G 2, B 3, A 9");
-    EXPECT_EQ(PixelStatusText(OnePixel(8, PackColor(128, 0, 0), 0), 0, 0), "R 128, G 0, B 0");
-    EXPECT_EQ(PixelStatusText(OnePixel(32, 0, 0), 1, 0), "");
-    EXPECT_EQ(PixelStatusText(OnePixel(4, PackColor(192, 192, 192), 0), 0, 0),
-              "R 192, G 192, B 192 (Silver)");
     // A colour the palette lacks is named after what it is saved as.
-    EXPECT_EQ(PixelStatusText(OnePixel(1, PackColor(10, 10, 10), 0), 0, 0),
-              "R 10, G 10, B 10 (Black)");
+    const std::tuple<int, PackedColor, int, const char*> cases[] = {
+        {32, TransparentColor, 0, "Transparent"},
+        {1, InverseColor, 0, "Inverted"},
+        {24, PackColor(1, 2, 3), 9, "R 1, G 2, B 3"},
+        {32, PackColor(1, 2, 3), 9, "R 1, G 2, B 3, A 9"},
+        {8, PackColor(128, 0, 0), 0, "R 128, G 0, B 0"},
+        {4, PackColor(192, 192, 192), 0, "R 192, G 192, B 192 (Silver)"},
+        {1, PackColor(10, 10, 10), 0, "R 10, G 10, B 10 (Black)"}};
+    for (const auto& [bits, color, alpha, text] : cases) {
+        const IconImage image = test::MakeImage(
+            1, 1, bits, [c = color](int, int) { return c; }, alpha);
+        EXPECT_EQ(PixelStatusText(image, 0, 0), text);
+        EXPECT_EQ(PixelStatusText(image, 1, 0), "");  // beside the image
+    }
 }
 
 TEST(ToolControls, ChannelBoxesTakeNumbersFromZeroBelow256AndAlphaFallsBackTo255) {

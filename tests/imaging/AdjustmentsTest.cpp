@@ -11,6 +11,7 @@
 #include "imaging/ColorAdjustments.h"
 #include "imaging/Rounding.h"
 #include "imaging/StandardColors.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
@@ -19,22 +20,13 @@ using enum AdjustChannel;
 using Pass = void (*)(IconImage&, int, AdjustChannel);
 constexpr AdjustChannel kEveryChannel[] = {All, Red, Green, Blue, Alpha};
 
-bool SamePlanes(const IconImage& a, const IconImage& b) {
-    return std::ranges::equal(a.PlaneCells(0), b.PlaneCells(0)) &&
-           std::ranges::equal(a.PlaneCells(1), b.PlaneCells(1));
-}
-
 // The colours of a one-row image after `pass`, and the first pixel's alpha (the others 255).
 using Result = std::pair<std::vector<PackedColor>, int>;
 Result Adjust(Pass pass, int value, AdjustChannel channel, const std::vector<PackedColor>& colors,
               int alpha = 255, int bitCount = 32) {
-    IconImage image;
     const int width = static_cast<int>(colors.size());
-    test::ShapeImage(image, width, 1, bitCount);
-    for (int x = 0; x < width; ++x) {
-        image.Color(x, 0) = colors[static_cast<std::size_t>(x)];
-        image.Alpha(x, 0) = x == 0 ? alpha : 255;
-    }
+    IconImage image = test::MakeImage(width, 1, bitCount, [&](int x, int) { return colors[x]; });
+    image.Alpha(0, 0) = alpha;
     pass(image, value, channel);
     Result result{{}, image.Alpha(0, 0)};
     for (int x = 0; x < width; ++x)
@@ -116,9 +108,8 @@ TEST(Adjustments, NeverTouchMarkersAndKeepLowDepthImagesInTheirPalettes) {
         for (const AdjustChannel channel : kEveryChannel) {
             for (const int bitCount : {32, 4, 1}) {
                 const auto [out, alpha] = Adjust(pass, 80, channel, colors, 17, bitCount);
-                EXPECT_EQ(out[0], TransparentColor);
-                EXPECT_EQ(alpha, 17);
-                EXPECT_EQ(out[1], InverseColor);
+                EXPECT_EQ(std::tuple(out[0], out[1], alpha),
+                          std::tuple(TransparentColor, InverseColor, 17));
                 for (std::size_t k = 2; k < out.size() && bitCount != 32; ++k) {
                     ASSERT_TRUE(bitCount == 4 ? IsStandard16Color(out[k])
                                               : (out[k] == 0 || out[k] == 0xFFFFFF))
@@ -130,8 +121,7 @@ TEST(Adjustments, NeverTouchMarkersAndKeepLowDepthImagesInTheirPalettes) {
 }
 
 IconImage Photo() {
-    IconImage image;
-    test::ShapeImage(image, 47, 33, 32);
+    IconImage image = test::MakeImage(47, 33, 32);
     test::FillPhotoLike(image, 21);
     image.Alpha(6, 6) = 90;
     image.KeepOriginalPng({1, 2, 3});
@@ -153,8 +143,7 @@ TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFro
     for (const AdjustChannel channel : kEveryChannel)
         window.SetChannel(channel);
     window.SetBrightness(50);
-    EXPECT_TRUE(SamePlanes(image, original));
-    EXPECT_EQ(image.OriginalPng(), original.OriginalPng());
+    EXPECT_TRUE(test::SamePixels(image, original) && image.OriginalPng() == original.OriginalPng());
     EXPECT_EQ(seen.redraws, 6);
 
     window.SetBrightness(60);
@@ -168,8 +157,8 @@ TEST(ColorAdjustmentsWindow, LeavesTheImageAloneAtFiftyAndOtherwiseRecomputesFro
     DoSat(expected, 30, Green);
     DoGamma(expected, 40, Green);
     DoBrightness(expected, 60, Green);
-    EXPECT_TRUE(SamePlanes(image, expected));
-    EXPECT_FALSE(SamePlanes(image, original));
+    EXPECT_TRUE(test::SamePixels(image, expected));
+    EXPECT_FALSE(test::SamePixels(image, original));
     EXPECT_TRUE(image.OriginalPng().empty());  // the stream read with the pixels no longer applies
 }
 
@@ -183,10 +172,10 @@ TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
         window.SetBrightness(20);
         window.SetChannel(All);
         window.Cancel();
-        EXPECT_TRUE(SamePlanes(image, original));
-        EXPECT_EQ(image.OriginalPng(), original.OriginalPng());
+        EXPECT_TRUE(test::SamePixels(image, original) &&
+                    image.OriginalPng() == original.OriginalPng());
         window.SetBrightness(90);  // closed: nothing happens
-        EXPECT_TRUE(SamePlanes(image, original));
+        EXPECT_TRUE(test::SamePixels(image, original));
         EXPECT_EQ(seen.redraws, 4);
     }
     ColorAdjustments window(image, &seen);
@@ -195,8 +184,8 @@ TEST(ColorAdjustmentsWindow, CancelRestoresBothPlanesAndOkKeeps) {
     window.Ok();
     window.Cancel();
     EXPECT_EQ(seen.closed, (std::vector<bool>{false, true}));
-    EXPECT_TRUE(SamePlanes(image, adjusted));
-    EXPECT_FALSE(SamePlanes(image, original));
+    EXPECT_TRUE(test::SamePixels(image, adjusted));
+    EXPECT_FALSE(test::SamePixels(image, original));
 }
 
 }  // namespace

@@ -31,14 +31,6 @@ PackedColor Reference16(int red, int green, int blue) {
     return PackColor(level[0], level[1], level[2]);
 }
 
-TEST(ConvertTo16Color, FollowsTheExamples) {
-    EXPECT_EQ(ConvertTo16Color(PackColor(200, 200, 200)), PackColor(192, 192, 192));
-    EXPECT_EQ(ConvertTo16Color(PackColor(100, 200, 30)), PackColor(255, 255, 0));
-    EXPECT_EQ(ConvertTo16Color(PackColor(255, 128, 128)), PackColor(128, 128, 128));
-    EXPECT_EQ(ConvertTo16Color(PackColor(130, 130, 224)), PackColor(128, 128, 128));
-    EXPECT_EQ(ConvertTo16Color(PackColor(0, 128, 255)), PackColor(0, 255, 255));
-}
-
 TEST(ColorMappings, MatchTheReferencesOverTheWholeCube) {
     int mismatches = 0;
     for (int r = 0; r < 256; ++r) {

@@ -53,37 +53,33 @@ TEST(Geometry, TrimKeepsWhatShows) {
     EXPECT_TRUE(TrimToContent(RgbaBuffer(4, 4)).Empty());
 }
 
+// Black, a translucent mid grey and red through each effect.
 TEST(ColorEffects, EachPixelChangesByItsRule) {
     const RgbaBuffer source = test::MakeBuffer(3, 1, [](int x, int) {
         const Rgba colors[] = {{0, 0, 0, 255}, {128, 128, 128, 40}, {255, 0, 0, 255}};
         return colors[x];
     });
-    test::RecordingProgress progress;
-    RgbaBuffer grey = source;
-    Greyscale(grey, progress);
-    EXPECT_EQ(grey.At(2, 0), (Rgba{76, 76, 76, 255}));  // 0.299 x 255
-    EXPECT_EQ(grey.At(1, 0), source.At(1, 0));
-
-    RgbaBuffer tinted = source;
-    Colorize(tinted, PackColor(0, 100, 200), progress);
-    EXPECT_EQ(tinted.At(0, 0), (Rgba{0, 0, 0, 255}));
-    EXPECT_EQ(tinted.At(1, 0), (Rgba{0, 100, 200, 40}));  // mid grey becomes the tint
-
-    RgbaBuffer inverted = source;
-    Invert(inverted);
-    EXPECT_EQ(inverted.At(2, 0), (Rgba{0, 255, 255, 255}));
-    Invert(inverted);
-    EXPECT_EQ(inverted, source);
-
-    RgbaBuffer twoTone = source;
-    TwoTone(twoTone, 100, PackColor(1, 1, 1), PackColor(9, 9, 9));
-    EXPECT_EQ(twoTone.At(1, 0), (Rgba{9, 9, 9, 40}));
-    EXPECT_EQ(twoTone.At(2, 0), (Rgba{1, 1, 1, 255}));  // red's luma is 76
-
-    RgbaBuffer keyed = source;
-    MakeColorTransparent(keyed, PackColor(250, 3, 0), 8);
-    EXPECT_EQ(keyed.At(2, 0), (Rgba{255, 0, 0, 0}));
-    EXPECT_EQ(keyed.At(0, 0).a, 255);
+    NullProgress progress;
+    auto after = [&](const std::function<void(RgbaBuffer&)>& effect) {
+        RgbaBuffer pixels = source;
+        effect(pixels);
+        return std::vector<Rgba>(pixels.Pixels().begin(), pixels.Pixels().end());
+    };
+    using Pixels = std::vector<Rgba>;
+    // Greyscale weighs red 0.299; Colorize turns mid grey into the tint; TwoTone splits at
+    // the luma (red's is 76); a colour within the tolerance of the key turns transparent.
+    EXPECT_EQ(after([&](RgbaBuffer& b) { Greyscale(b, progress); }),
+              (Pixels{{0, 0, 0, 255}, {128, 128, 128, 40}, {76, 76, 76, 255}}));
+    EXPECT_EQ(after([&](RgbaBuffer& b) { Colorize(b, PackColor(0, 100, 200), progress); })[0],
+              (Rgba{0, 0, 0, 255}));
+    EXPECT_EQ(after([&](RgbaBuffer& b) { Colorize(b, PackColor(0, 100, 200), progress); })[1],
+              (Rgba{0, 100, 200, 40}));
+    EXPECT_EQ(after([](RgbaBuffer& b) { Invert(b); })[2], (Rgba{0, 255, 255, 255}));
+    EXPECT_EQ(after([](RgbaBuffer& b) { Invert(b), Invert(b); }), after([](RgbaBuffer&) {}));
+    EXPECT_EQ(after([](RgbaBuffer& b) { TwoTone(b, 100, PackColor(1, 1, 1), PackColor(9, 9, 9)); }),
+              (Pixels{{1, 1, 1, 255}, {9, 9, 9, 40}, {1, 1, 1, 255}}));
+    EXPECT_EQ(after([](RgbaBuffer& b) { MakeColorTransparent(b, PackColor(250, 3, 0), 8); }),
+              (Pixels{{0, 0, 0, 255}, {128, 128, 128, 40}, {255, 0, 0, 0}}));
 }
 
 TEST(Filters, EdgesAgainstTransparencyKeepTheirColour) {

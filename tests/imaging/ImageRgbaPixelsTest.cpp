@@ -3,57 +3,31 @@
 
 #include <gtest/gtest.h>
 
-#include "SyntheticImages.h"
 #include "imaging/ImageRgbaPixels.h"
 #include "imaging/StandardColors.h"
+#include "support/TestImages.h"
 
 namespace iw {
 namespace {
 
-// Colours each depth holds exactly, with transparent and (below 32 bits) inverting pixels.
-void PaintForDepth(IconImage& image) {
-    const int bits = image.info.bitCount;
-    for (int y = 0; y < image.info.Height(); ++y) {
-        for (int x = 0; x < image.info.Width(); ++x) {
-            PackedColor c = bits == 1 ? kMonoColors[static_cast<std::size_t>((x + y) % 2)]
-                            : bits == 4
-                                ? kStandard16Colors[static_cast<std::size_t>((x * 3 + y) % 16)]
-                                : PackColor(x * 9, y * 7, 200 - x);
-            if ((x + 2 * y) % 7 == 0) c = TransparentColor;
-            if ((x + y) % 5 == 3 && bits != 32) c = InverseColor;
-            image.Color(x, y) = c;
-            if (bits == 32) image.Alpha(x, y) = c == TransparentColor ? 0 : 1 + (x * 13 + y) % 255;
-        }
-    }
-}
-
 TEST(ImageRgbaPixels, ReadingAndWritingBackChangesNothingAtAnyDepth) {
     for (int bits : {1, 4, 8, 24, 32}) {
-        IconImage image;
-        test::ShapeImage(image, 13, 9, bits);
-        PaintForDepth(image);
+        IconImage image = test::MakeImage(13, 9, bits);
+        test::PaintExact(image);
         const IconImage original = image.Clone();
         WriteImageRgba(image, 0, 0, ReadImageRgba(image));
         // A region taken out and put back in its place changes nothing either.
         WriteImageRgba(image, 4, 2, ReadImageRgba(image, {4, 2, 6, 5}));
-        for (int y = 0; y < 9; ++y) {
-            for (int x = 0; x < 13; ++x) {
-                ASSERT_EQ(image.Color(x, y), original.Color(x, y))
-                    << bits << " bits " << x << "," << y;
-                ASSERT_EQ(image.Alpha(x, y), original.Alpha(x, y));
-            }
-        }
+        EXPECT_TRUE(test::SamePixels(image, original)) << bits << " bits";
     }
 }
 
 TEST(ImageRgbaPixels, RegionsAreClippedToTheImage) {
-    IconImage image;
-    test::ShapeImage(image, 5, 4, 32);
+    IconImage image = test::MakeImage(5, 4, 32);
     image.Color(4, 3) = PackColor(1, 2, 3);
     image.Alpha(4, 3) = 77;
     const RgbaBuffer corner = ReadImageRgba(image, {3, 2, 10, 10});
-    ASSERT_EQ(corner.Width(), 2);
-    ASSERT_EQ(corner.Height(), 2);
+    ASSERT_EQ(std::pair(corner.Width(), corner.Height()), std::pair(2, 2));
     EXPECT_EQ(corner.At(1, 1), (Rgba{1, 2, 3, 77}));
     EXPECT_TRUE(ReadImageRgba(image, {-5, 0, 3, 3}).Empty());
 
@@ -61,10 +35,8 @@ TEST(ImageRgbaPixels, RegionsAreClippedToTheImage) {
     big.At(0, 0) = {9, 9, 9, 255};
     image.KeepOriginalPng(std::vector<std::uint8_t>{1, 2, 3});
     WriteImageRgba(image, 4, 3, big);  // only (4, 3) lies inside
-    const IconImage& written = image;
-    EXPECT_TRUE(written.OriginalPng().empty());
-    EXPECT_EQ(written.Color(4, 3), PackColor(9, 9, 9));
-    EXPECT_EQ(written.Color(5, 3), 0);  // beyond the sides: untouched
+    EXPECT_TRUE(std::as_const(image).OriginalPng().empty());
+    EXPECT_EQ(std::pair(image.Color(4, 3), image.Color(5, 3)), std::pair(PackColor(9, 9, 9), 0));
 }
 
 TEST(ImageRgbaPixels, WritingFollowsTheDepthRules) {
@@ -91,16 +63,15 @@ TEST(ImageRgbaPixels, WritingFollowsTheDepthRules) {
 }
 
 TEST(ImageRgbaPixels, ReplacingSetsTheSidesCrosswiseAsTheFieldsSay) {
-    IconImage image;
-    test::ShapeImage(image, 16, 16, 32);
+    IconImage image = test::MakeImage(16, 16, 32);
     image.Color(15, 15) = PackColor(1, 1, 1);
     RgbaBuffer wide(20, 3);
     wide.At(19, 2) = {4, 5, 6, 255};
     ReplaceImageRgba(image, wide);
-    EXPECT_EQ(image.info.widthMinus1, 19);  // field 0: the planes' x extent
-    EXPECT_EQ(image.info.heightMinus1, 2);
-    EXPECT_EQ(image.Color(19, 2), PackColor(4, 5, 6));
-    EXPECT_EQ(image.Color(15, 15), 0);
+    // Field 0 is the planes' x extent; what lay outside the new sides is cleared.
+    EXPECT_EQ(std::tuple(image.info.widthMinus1, image.info.heightMinus1, image.Color(19, 2),
+                         image.Color(15, 15)),
+              std::tuple(std::int16_t{19}, std::int16_t{2}, PackColor(4, 5, 6), 0));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "SyntheticImages.h"
 #include "imaging/ColorMapping.h"
+#include "support/TestImages.h"
 #include "support/TestSupport.h"
 
 namespace iw {
@@ -22,14 +23,9 @@ constexpr int kWhite = Palette256Result::kWhiteEntry;
 // A width x height image filled column by column (x outer, y inner) with colors[0],
 // colors[1], ..., repeating the list when the image has more pixels.
 IconImage ColumnByColumn(int width, int height, const std::vector<PackedColor>& colors) {
-    IconImage image;
-    test::ShapeImage(image, width, height, 8);
-    std::size_t next = 0;
-    for (int x = 0; x < width; ++x) {
-        for (int y = 0; y < height; ++y)
-            image.Color(x, y) = colors[next++ % colors.size()];
-    }
-    return image;
+    return test::MakeImage(width, height, 8, [&](int x, int y) {
+        return colors[static_cast<std::size_t>(x * height + y) % colors.size()];
+    });
 }
 
 Palette256Result Build(const IconImage& image) {
@@ -79,12 +75,13 @@ TEST(CreatePalette256, KeepsTwoHundredColoursExactlyWithMarkersAt254And255) {
     EXPECT_FALSE(built.dithered);
     EXPECT_EQ(built.distinctColors, 201);  // 200 plus black and white for the markers
     ASSERT_GE(built.palette.size(), 256u);
-    EXPECT_EQ(std::vector<PackedColor>(built.palette.begin(), built.palette.begin() + 200), own);
-    EXPECT_EQ(built.palette[200], 0x000000);  // first seen at (15, 3)
-    EXPECT_EQ(built.palette[201], 0xFFFFFF);  // first seen at (15, 12)
-    EXPECT_EQ(built.palette[202], 0);
-    EXPECT_EQ(built.palette[kBlack], 0x000000);
-    EXPECT_EQ(built.palette[kWhite], 0xFFFFFF);
+    // The colours in the order first seen, black at (15, 3) and white at (15, 12) after them.
+    std::vector<PackedColor> expected = own;
+    expected.insert(expected.end(), {0x000000, 0xFFFFFF, 0});
+    EXPECT_EQ(std::vector<PackedColor>(built.palette.begin(), built.palette.begin() + 203),
+              expected);
+    EXPECT_EQ(built.palette[kBlack], 0x000000u);
+    EXPECT_EQ(built.palette[kWhite], 0xFFFFFFu);
     // Entry 7 as blue, green, red, 0.
     EXPECT_EQ(std::vector<int>(built.paletteBytes.begin() + 28, built.paletteBytes.begin() + 32),
               (std::vector<int>{BlueOf(own[7]), GreenOf(own[7]), RedOf(own[7]), 0}));

@@ -16,21 +16,19 @@ TEST(ResizePresenter, PercentAndPixelsGiveTheNewSides) {
     EXPECT_EQ(resize.NewText(), "New Size: 32 x 48");
     ASSERT_TRUE(resize.SetHorizontal("50"));
     ASSERT_TRUE(resize.SetVertical("500"));
-    EXPECT_EQ(resize.NewWidth(), 16);
-    EXPECT_EQ(resize.NewHeight(), 240);
+    EXPECT_EQ(std::pair(resize.NewWidth(), resize.NewHeight()), std::pair(16, 240));
     ASSERT_TRUE(resize.SetVertical("+999") == false);
     ASSERT_TRUE(resize.SetHorizontal("1"));
     EXPECT_EQ(resize.NewWidth(), 1);  // 0.32 px is still one pixel
 
     // Switching to pixels keeps the size; pixels above 256 are held to 256.
     resize.SetMode(ResizePresenter::Mode::Pixels);
-    EXPECT_EQ(resize.Horizontal(), 1);
-    EXPECT_EQ(resize.Vertical(), 240);
+    EXPECT_EQ(std::pair(resize.Horizontal(), resize.Vertical()), std::pair(1, 240));
     ASSERT_TRUE(resize.SetHorizontal("300"));
     EXPECT_EQ(resize.NewWidth(), 256);
     resize.SetMode(ResizePresenter::Mode::Percent);
-    EXPECT_EQ(resize.Horizontal(), 500);  // 256 of 32 is 800 %, held to 500
-    EXPECT_EQ(resize.Vertical(), 500);
+    // 256 of 32 is 800 %, held to 500.
+    EXPECT_EQ(std::pair(resize.Horizontal(), resize.Vertical()), std::pair(500, 500));
     EXPECT_EQ(resize.NewText(), "New Size: 160 x 240");
 }
 
@@ -41,11 +39,8 @@ TEST(ResizePresenter, EntriesOutsideOneTo500AreRefusedWithTheMessage) {
         EXPECT_FALSE(resize.SetHorizontal(text)) << text;
         EXPECT_FALSE(resize.SetVertical(text)) << text;
     }
-    EXPECT_EQ(resize.Horizontal(), 100);
-    EXPECT_EQ(resize.Vertical(), 100);
-    ASSERT_EQ(messages.presenter.shown.size(), 16u);
-    EXPECT_EQ(messages.presenter.shown[0].key, "Integer500");
-    EXPECT_EQ(messages.presenter.shown[0].text, "Please enter an integer between 1 and 500");
+    EXPECT_EQ(std::pair(resize.Horizontal(), resize.Vertical()), std::pair(100, 100));
+    EXPECT_EQ(messages.presenter.Keys(), std::vector<std::string>(16, "Integer500"));
     EXPECT_TRUE(resize.SetVertical("500"));
     EXPECT_EQ(messages.presenter.shown.size(), 16u);
 }

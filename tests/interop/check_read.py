@@ -11,12 +11,14 @@ usage: check_read.py ICONWRIGHT_CLI FIXTURE_DIR
 """
 import json
 import os
-import re
 import subprocess
 import sys
 import tempfile
 
 from PIL import Image
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
+from cli_check import icotool_list, problems, report  # noqa: E402
 
 STANDARD16 = {(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128),
               (0, 128, 128), (192, 192, 192), (128, 128, 128), (255, 0, 0), (0, 255, 0),
@@ -26,24 +28,6 @@ STANDARD16 = {(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (
 def ours(cli, path):
     out = subprocess.run([cli, "info", "--json", path], capture_output=True, text=True, check=True)
     return json.loads(out.stdout)
-
-
-def icotool_list(path):
-    """icotool's view: a list of dicts in file order, or None when icotool refuses the file."""
-    out = subprocess.run(["icotool", "-l", path], capture_output=True, text=True)
-    if out.returncode != 0 or not out.stdout.strip():
-        return None
-    images = []
-    for line in out.stdout.splitlines():
-        fields = dict(re.findall(r"--([a-z-]+)=(\d+)", line))
-        images.append({
-            "cursor": line.startswith("--cursor"),
-            "width": int(fields["width"]),
-            "height": int(fields["height"]),
-            "bpp": int(fields["bit-depth"]),
-            "hotspot": [int(fields.get("hotspot-x", 0)), int(fields.get("hotspot-y", 0))],
-        })
-    return images
 
 
 def uses_only_standard16(path, index):
@@ -121,18 +105,15 @@ def check_every_command(cli, path, problems):
 
 def main():
     cli, folder = sys.argv[1], sys.argv[2]
-    problems = []
     files = sorted(f for f in os.listdir(folder) if f.endswith((".ico", ".cur")))
     count = sum(check(cli, os.path.join(folder, f), problems) for f in files)
     crashers = os.path.join(folder, os.pardir, "crashers")
     findings = sorted(os.listdir(crashers))
     for f in findings:
         check_every_command(cli, os.path.join(crashers, f), problems)
-    for p in problems:
-        print("MISMATCH", p)
-    print(f"Interop: {len(files)} files, {count} images; {len(findings)} findings through "
-          f"every command; {len(problems)} mismatches")
-    return 1 if problems or not files or not findings else 0
+    return report("MISMATCH", f"Interop: {len(files)} files, {count} images; {len(findings)} "
+                  f"findings through every command; {len(problems)} mismatches",
+                  not files or not findings)
 
 
 if __name__ == "__main__":

@@ -9,8 +9,8 @@
 
 usage: check_write.py ICONWRIGHT_CLI FIXTURE_DIR
 """
+import json
 import os
-import re
 import struct
 import subprocess
 import sys
@@ -18,8 +18,10 @@ import tempfile
 
 from PIL import Image
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support"))
+from cli_check import icotool_list, problems, report  # noqa: E402
+
 CLI = None
-problems = []
 checked = 0
 
 
@@ -57,7 +59,6 @@ def check_extract(folder, tmp):
         path = os.path.join(folder, name)
         out = os.path.join(tmp, name + ".x")
         run("extract", path, out)
-        import json
         info = json.loads(run("info", "--json", path))
         theirs = Image.open(path)
         for image in info["images"]:
@@ -94,14 +95,12 @@ def check_pack(tmp):
     run("extract", ico, ours_dir)
     depths = [1, 4, 8, 24, 32, 32]
     # icotool
-    listing = subprocess.run(["icotool", "-l", ico], capture_output=True, text=True, check=True).stdout.splitlines()
+    listing = icotool_list(ico) or []
     if len(listing) != 6:
         problems.append(f"icotool lists {len(listing)} images in the packed icon")
-    for i, line in enumerate(listing):
-        fields = dict(re.findall(r"--([a-z-]+)=(\d+)", line))
-        want = 256 if i == 5 else 48
-        if int(fields["width"]) != want or int(fields["bit-depth"]) != depths[i]:
-            problems.append(f"icotool: packed #{i}: {line}")
+    for i, image in enumerate(listing):
+        if (image["width"], image["bpp"]) != (256 if i == 5 else 48, depths[i]):
+            problems.append(f"icotool: packed #{i}: {image}")
         xdir = os.path.join(tmp, f"icotool{i}")
         os.makedirs(xdir)
         subprocess.run(["icotool", "-x", "-i", str(i + 1), "-o", xdir, ico], check=True, capture_output=True)
@@ -134,11 +133,11 @@ def check_cursor(tmp):
     picture(32).save(src)
     cur = os.path.join(tmp, "c.cur")
     run("pack", cur, f"{src}:32", "--hotspot", "9,12")
-    line = subprocess.run(["icotool", "-l", cur], capture_output=True, text=True, check=True).stdout
+    listing = icotool_list(cur)
     global checked
     checked += 1
-    if "--cursor" not in line or "--hotspot-x=9" not in line or "--hotspot-y=12" not in line:
-        problems.append(f"icotool reads the cursor as: {line.strip()}")
+    if not listing or not listing[0]["cursor"] or listing[0]["hotspot"] != [9, 12]:
+        problems.append(f"icotool reads the cursor as: {listing}")
 
 
 def walk(data, begin, end, parent, out):
@@ -167,7 +166,7 @@ def check_ani(tmp):
         picture(32).rotate(90 * i).save(path)
         frames.append(path + ":32")
     ani = os.path.join(tmp, "spin.ani")
-    run("pack", ani, *frames, "--rate", "8", "--name", "Spin", "--artist", "Ann", "--sequence", "0,1,2,1", "--hotspot", "4,5")
+    run("pack", ani, *frames, "--rate", "8", "--name", "Spinner", "--artist", "Ann", "--sequence", "0,1,2,1", "--hotspot", "4,5")
     data = open(ani, "rb").read()
     checked += 1
     try:
@@ -176,7 +175,7 @@ def check_ani(tmp):
         chunks = []
         walk(data, 12, len(data), "", chunks)
         found = dict(chunks)
-        if found.get("LIST:INFO/INAM") != b"Spin" or found.get("LIST:INFO/IART") != b"Ann":
+        if found.get("LIST:INFO/INAM") != b"Spinner" or found.get("LIST:INFO/IART") != b"Ann":
             raise ValueError("name or artist missing")
         anih = struct.unpack("<9I", found["anih"])
         if anih != (36, 3, 4, 0, 0, 0, 0, 8, 1):
@@ -207,10 +206,8 @@ def main():
                 check()
             except Exception as e:  # a tool failing is a finding, not a crash of the test
                 problems.append(f"{type(e).__name__}: {e}")
-    for p in problems:
-        print("MISMATCH", p)
-    print(f"Interop: {checked} images and files checked; {len(problems)} mismatches")
-    return 1 if problems or checked == 0 else 0
+    return report("MISMATCH", f"Interop: {checked} images and files checked; {len(problems)} "
+                  "mismatches", checked == 0)
 
 
 if __name__ == "__main__":

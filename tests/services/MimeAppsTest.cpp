@@ -108,32 +108,8 @@ struct Desktop {
     }
 };
 
-TEST(MimeAppsLookup, ListsAreReadDesktopFirstLevelByLevel) {
-    Desktop d;
-    const fs::path r = d.root.Path();
-    const std::vector<fs::path> expected = {
-        r / "config/kde-mimeapps.list",
-        r / "config/plasma-mimeapps.list",
-        r / "config/mimeapps.list",
-        r / "etc1/kde-mimeapps.list",
-        r / "etc1/plasma-mimeapps.list",
-        r / "etc1/mimeapps.list",
-        r / "etc2/kde-mimeapps.list",
-        r / "etc2/plasma-mimeapps.list",
-        r / "etc2/mimeapps.list",
-        r / "data/applications/kde-mimeapps.list",
-        r / "data/applications/plasma-mimeapps.list",
-        r / "data/applications/mimeapps.list",
-        r / "usr1/applications/kde-mimeapps.list",
-        r / "usr1/applications/plasma-mimeapps.list",
-        r / "usr1/applications/mimeapps.list",
-        r / "usr2/applications/kde-mimeapps.list",
-        r / "usr2/applications/plasma-mimeapps.list",
-        r / "usr2/applications/mimeapps.list",
-    };
-    EXPECT_EQ(MimeAppsListFiles(d.dirs), expected);
-}
-
+// Lists are read level by level (config home, config dirs, data home, data dirs), the
+// desktops' own lists before the plain one at each level.
 TEST(MimeAppsLookup, TheFirstInstalledApplicationOfTheFirstListThatNamesOneWins) {
     Desktop d;
     for (const char* id : {"a.desktop", "c.desktop", "d.desktop"})
@@ -169,16 +145,6 @@ TEST(DesktopEntry, ExecArgumentsAreQuotedAndEscaped) {
     for (const auto& [argument, written] : cases)
         EXPECT_EQ(ExecArgument(argument), written) << argument;
     EXPECT_EQ(UnescapeDesktopString(EscapeDesktopString("a\\b\nc\td")), "a\\b\nc\td");
-}
-
-TEST(DesktopEntry, TheInstalledEntryOffersTheThreeTypes) {
-    IniText entry(DesktopEntryText(), IniText::Names::CaseSensitive);
-    const auto types =
-        DesktopIdList(entry.Value(entry.FindGroup("Desktop Entry"), "MimeType").value_or(""));
-    std::vector<std::string> expected;
-    for (const FileType& type : FileTypes())
-        expected.emplace_back(type.mimeType);
-    EXPECT_EQ(types, expected);
 }
 
 TEST(FreedesktopAssociations, AProgramOutsideAnInstallationGetsItsOwnEntry) {

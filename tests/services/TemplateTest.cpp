@@ -1,56 +1,43 @@
 // Template files: reading, old-style colour indexes, limits, round trips, the two folders
-// and the editor's operations.
+// and the template editor's operations.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
+#include "DesktopTestSupport.h"
 #include "services/desktop/ProgramFolders.h"
 #include "services/desktop/TemplateEditor.h"
 #include "services/desktop/TemplateFile.h"
 #include "services/desktop/TemplateLibrary.h"
-#include "support/TestSupport.h"
 
 namespace iw {
 namespace {
 
-void WriteText(const std::filesystem::path& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
+using test::WriteText;
+
+// (width, bits, compressed) of each entry.
+std::vector<std::tuple<int, int, int>> Summary(const std::vector<TemplateEntry>& entries) {
+    std::vector<std::tuple<int, int, int>> out;
+    for (const TemplateEntry& e : entries)
+        out.emplace_back(e.Width(), e.bits, e.compressed);
+    return out;
 }
 
-TEST(TemplateFile, ReadsEntriesAndMapsOldStyleIndexes) {
-    const auto entries =
-        ParseTemplateText("32,32,3,0\r\n32,32,24,0\r\n16, 16, 0, 0\r\n48,48,4,1\r\n");
-    ASSERT_EQ(entries.size(), 4u);
-    EXPECT_EQ(entries[0], entries[1]);  // 3 is the old index of 24 bits
-    EXPECT_EQ(entries[0].widthMinus1, 31);
-    EXPECT_EQ(entries[0].bits, 24);
-    EXPECT_EQ(entries[2].bits, 1);
-    EXPECT_EQ(entries[3].bits, 32);
-    EXPECT_EQ(entries[3].compressed, 1);
-}
-
-TEST(TemplateFile, StopsAt65EntriesAndAtAnEntryCutOffByTheEnd) {
+// Values are read four at a time whatever the lines; an entry with a bad value is skipped;
+// old colour indexes (3 is 24 bits, 0 is 1 bit, 4 is 32 bits) are mapped; 65 at most.
+TEST(TemplateFile, ReadsEntriesSkipsBadOnesAndStopsAt65) {
+    using S = std::vector<std::tuple<int, int, int>>;
+    EXPECT_EQ(Summary(ParseTemplateText("32,32,3,0\r\n32,32,24,0\r\n16, 16, 0, 0\r\n48,48,4,1")),
+              (S{{32, 24, 0}, {32, 24, 0}, {16, 1, 0}, {48, 32, 1}}));
+    EXPECT_EQ(Summary(ParseTemplateText("0,16,32,0\r\n16,300,32,0\r\n16,16,16,0\r\nx,16,32,0\r\n"
+                                        "16,16\r\n32,0\r\n,,,\r\n\r\n99999999999,1,1,1\r\n"
+                                        "24,24,8,7\r\n32,32,32")),
+              (S{{16, 32, 0}, {24, 8, 1}}));
+    EXPECT_TRUE(ParseTemplateText(std::string(1000, ',')).empty());
     std::string many;
     for (int i = 1; i <= 70; ++i)
         many += std::to_string(i) + "," + std::to_string(i) + ",32,0\r\n";
     const auto entries = ParseTemplateText(many);
     ASSERT_EQ(entries.size(), 65u);
     EXPECT_EQ(entries.back().Width(), 65);
-    EXPECT_EQ(ParseTemplateText("16,16,32,0\r\n32,32,32").size(), 1u);
-    // Values are read four at a time whatever the lines: a record may span them.
-    EXPECT_EQ(ParseTemplateText("16,16\r\n32,0\r\n").size(), 1u);
-}
-
-TEST(TemplateFile, SkipsEntriesWithBadValuesInsteadOfFailing) {
-    const auto entries = ParseTemplateText(
-        "0,16,32,0\r\n16,300,32,0\r\n16,16,16,0\r\nx,16,32,0\r\n16,16,32,0\r\n"
-        ",,,\r\n\r\n99999999999,1,1,1\r\n24,24,8,7\r\n");
-    ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(entries[0].Width(), 16);
-    EXPECT_EQ(entries[1].Width(), 24);
-    EXPECT_EQ(entries[1].compressed, 1);
-    EXPECT_TRUE(ParseTemplateText("").empty());
-    EXPECT_TRUE(ParseTemplateText(std::string(1000, ',')).empty());
 }
 
 TEST(TemplateFile, SavedTemplatesLoadBackTheSame) {
@@ -66,18 +53,14 @@ TEST(TemplateFile, SavedTemplatesLoadBackTheSame) {
             entries.push_back(entry);
         }
     }
-    const auto file = dir / "Round trip.ini";
-    ASSERT_TRUE(WriteTemplateFile(file, entries));
-    const auto loaded = ReadTemplateFile(file);
-    ASSERT_TRUE(loaded.has_value());
-    EXPECT_EQ(*loaded, entries);
+    ASSERT_TRUE(WriteTemplateFile(dir / "Round trip.ini", entries));
+    EXPECT_EQ(ReadTemplateFile(dir / "Round trip.ini"), entries);
     EXPECT_EQ(FormatTemplateText({entries[10]}), "256,256,0,0\r\n");
     EXPECT_FALSE(ReadTemplateFile(dir / "absent.ini").has_value());
 }
 
-TEST(TemplateLibrary, LoadsBothFoldersAndLocksTheProgramsOwn) {
-    test::TempDir program;
-    test::TempDir user;
+TEST(TemplateLibrary, LoadsBothFoldersSortedAndLocksTheProgramsOwn) {
+    test::TempDir program, user;
     WriteText(program / "Beta.ini", "16,16,32,0\r\n");
     WriteText(program / "alpha.INI", "32,32,32,0\r\n");
     WriteText(program / "notes.txt", "16,16,32,0\r\n");
@@ -86,44 +69,17 @@ TEST(TemplateLibrary, LoadsBothFoldersAndLocksTheProgramsOwn) {
     TemplateLibrary library;
     library.LoadAll(program.Path(), user.Path(), messages.service);
     ASSERT_EQ(library.Templates().size(), 3u);
-    EXPECT_EQ(library.Templates()[0].name, "alpha");
-    EXPECT_EQ(library.Templates()[1].name, "Beta");
-    EXPECT_EQ(library.Templates()[0].lock, "LOCKED");
-    const IconTemplate* mine = library.Find("Mine");
-    ASSERT_NE(mine, nullptr);
-    EXPECT_FALSE(mine->Locked());
-    EXPECT_EQ(mine->entries[0].bits, 32);
-    EXPECT_EQ(mine->EntryCountText(), "1");
+    EXPECT_EQ(std::tuple(library.Templates()[0].name, library.Templates()[1].name,
+                         library.Templates()[0].Locked(), library.Find("Mine")->Locked()),
+              std::tuple("alpha", "Beta", true, false));
+    EXPECT_EQ(library.Find("Mine")->entries[0].bits, 32);
     EXPECT_TRUE(messages.presenter.shown.empty());
-}
 
-TEST(TemplateLibrary, AMissingProgramFolderIsReportedAndTheUsersStillLoad) {
-    test::TempDir user;
-    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
-    test::MessageFixture messages;
-    TemplateLibrary library;
-    library.LoadAll(user / "no-such-folder", user.Path(), messages.service);
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].text,
-              "The Templates folder could not be found.  Please reinstall Iconwright.");
+    TemplateLibrary without;
+    without.LoadAll(user / "no-such-folder", user.Path(), messages.service);
+    EXPECT_EQ(messages.presenter.shown.size(), 1u);  // the program's folder is missing
     EXPECT_EQ(messages.presenter.shown[0].type, MessageType::Critical);
-    ASSERT_EQ(library.Templates().size(), 1u);
-}
-
-TEST(TemplateLibrary, ShippedTemplatesHoldTheirFormats) {
-    test::MessageFixture messages;
-    TemplateLibrary library;
-    library.LoadAll(test::TestDataPath("../../data/Templates"), {}, messages.service);
-    const IconTemplate* classic = library.Find("Windows Classic");
-    const IconTemplate* app = library.Find("Windows Application");
-    const IconTemplate* all = library.Find("Windows All Sizes");
-    const IconTemplate* favicon = library.Find("Favicon");
-    const IconTemplate* cursor = library.Find("Cursor");
-    ASSERT_TRUE(classic && app && all && favicon && cursor);
-    EXPECT_TRUE(classic->Locked());
-    EXPECT_EQ(all->entries.size(), 14u);
-    EXPECT_EQ(all->entries[0].Width(), 256);
-    EXPECT_EQ(all->entries[0].compressed, 1);
+    EXPECT_EQ(without.Templates().size(), 1u);
 }
 
 TEST(TemplateFolders, ProgramFolderPrefersTheBuildTreeThenTheInstalledDataFolder) {
@@ -153,8 +109,7 @@ TEST_F(TemplateEditing, LockedTemplatesCannotBeEdited) {
     locked.name = "Shipped";
     locked.lock = "LOCKED";
     EXPECT_FALSE(editor.OpenTemplates(locked));
-    ASSERT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(messages.presenter.shown[0].text, "This template cannot be edited.");
+    EXPECT_EQ(messages.presenter.shown.size(), 1u);
     EXPECT_EQ(editor.Name(), "NEW");
     EXPECT_EQ(rowEvents + templateEvents, 0);
 }
@@ -162,16 +117,13 @@ TEST_F(TemplateEditing, LockedTemplatesCannotBeEdited) {
 TEST_F(TemplateEditing, RowsAddRemoveAndMoveWithTheSelection) {
     EXPECT_TRUE(editor.AddItem(48, 48, 32, false) && editor.AddItem(16, 16, 4, false) &&
                 editor.AddItem(256, 256, 32, true));
-    EXPECT_FALSE(editor.AddItem(0, 16, 32, false));
-    EXPECT_FALSE(editor.AddItem(16, 16, 16, false));
+    EXPECT_FALSE(editor.AddItem(0, 16, 32, false) || editor.AddItem(16, 16, 16, false));
     EXPECT_EQ(editor.SelectedRow(), 2);
-    EXPECT_EQ(editor.UpdateLabel(), "256 x 256");
     EXPECT_TRUE(editor.MoveUp() && editor.MoveUp());
     EXPECT_FALSE(editor.MoveUp());
     EXPECT_EQ(editor.SelectedRow(), 0);
-    EXPECT_EQ(editor.Rows()[0].size, "256 x 256");
-    EXPECT_EQ(editor.Rows()[0].compressed, "Yes");
-    EXPECT_EQ(editor.Rows()[2].depth, "16 Colors");
+    EXPECT_EQ(std::tie(editor.Rows()[0].size, editor.Rows()[0].compressed, editor.Rows()[2].depth),
+              std::tuple("256 x 256", "Yes", "16 Colors"));
     EXPECT_TRUE(editor.MoveDown());
     EXPECT_EQ(editor.Entries()[1].Width(), 256);
     editor.SelectRow(2);
@@ -179,39 +131,17 @@ TEST_F(TemplateEditing, RowsAddRemoveAndMoveWithTheSelection) {
     EXPECT_EQ(editor.SelectedRow(), 1);  // the new last row
     EXPECT_EQ(editor.Entries().size(), 2u);
     editor.UnselectRows();
-    EXPECT_FALSE(editor.RemoveItem());
-    EXPECT_FALSE(editor.MoveDown());
-    EXPECT_EQ(editor.UpdateLabel(), "");
+    EXPECT_FALSE(editor.RemoveItem() || editor.MoveDown());
     editor.SelectRow(7);
     EXPECT_EQ(editor.SelectedRow(), -1);
     EXPECT_EQ(rowEvents, 10);  // every change but the refused ones
-}
-
-TEST_F(TemplateEditing, HoldsAtMost65Rows) {
-    for (int i = 0; i < 65; ++i)
+    while (editor.Entries().size() < 65)
         ASSERT_TRUE(editor.AddItem(16, 16, 32, false));
     EXPECT_FALSE(editor.AddItem(16, 16, 32, false));
 }
 
-TEST_F(TemplateEditing, ScrollsToTheSelectionAndTakesOnlyIntegers) {
-    EXPECT_TRUE(TemplateEditor::IsInteger("48"));
-    EXPECT_TRUE(TemplateEditor::IsInteger("-3"));
-    EXPECT_FALSE(TemplateEditor::IsInteger("4.5"));
-    EXPECT_FALSE(TemplateEditor::IsInteger(""));
-    EXPECT_FALSE(TemplateEditor::IsInteger("-"));
-    for (int i = 0; i < 10; ++i)
-        editor.AddItem(16, 16, 32, false);
-    editor.SelectRow(9);
-    EXPECT_EQ(editor.UpdateScrollBar(0, 4), 6);
-    editor.SelectRow(1);
-    EXPECT_EQ(editor.UpdateScrollBar(6, 4), 1);
-    editor.UnselectRows();
-    EXPECT_EQ(editor.UpdateScrollBar(50, 4), 6);
-}
-
 TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
     editor.NewTemplate();
-    EXPECT_EQ(editor.Name(), "NEW");
     editor.AddItem(32, 32, 1, false);
     editor.AddItem(24, 16, 4, false);
     EXPECT_FALSE(editor.SaveTemplates());  // a new template has no file yet
@@ -219,8 +149,9 @@ TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
     ASSERT_TRUE(editor.SaveTemplatesAs("Tiny"));
     EXPECT_EQ(editor.Path(), (user / "Tiny.ini").string());
     EXPECT_EQ(templateEvents, 2);  // the new template, then its name
+    test::TempDir program;
     TemplateLibrary library;
-    library.LoadAll(test::TestDataPath("../../data/Templates"), user.Path(), messages.service);
+    library.LoadAll(program.Path(), user.Path(), messages.service);
     const IconTemplate* tiny = library.Find("Tiny");
     ASSERT_NE(tiny, nullptr);
     EXPECT_EQ(tiny->entries, editor.Entries());
@@ -231,6 +162,113 @@ TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
     reopened.RemoveItem();
     ASSERT_TRUE(reopened.SaveTemplates());
     EXPECT_EQ(ReadTemplateFile(user / "Tiny.ini")->size(), 1u);
+}
+
+TEST_F(TemplateEditing, TheAddButtonTakesOnlyWholeSidesFrom1To256) {
+    struct Case {
+        const char* width;
+        const char* height;
+        int depthIndex;
+        int compressedIndex;
+        bool added;
+    };
+    const Case cases[] = {
+        {"16", "24", 0, 0, true},  {"+32", "32", 4, 1, true},         {"256", "1", 2, 0, true},
+        {"0", "16", 4, 0, false},  {"16", "257", 4, 0, false},        {"4.5", "16", 4, 0, false},
+        {"", "16", 4, 0, false},   {"99999999999", "1", 4, 0, false}, {"-16", "16", 4, 0, false},
+        {"16", "16", 5, 0, false},
+    };
+    std::size_t messagesBefore = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.width) + " x " + c.height);
+        const std::size_t rows = editor.Entries().size();
+        EXPECT_EQ(editor.AddItemText(c.width, c.height, c.depthIndex, c.compressedIndex), c.added);
+        EXPECT_EQ(editor.Entries().size(), rows + (c.added ? 1 : 0));
+        const bool told = messages.presenter.shown.size() > messagesBefore;
+        // Every refused side is told; a depth outside the list cannot be chosen in the window.
+        EXPECT_EQ(told, !c.added && c.depthIndex < 5);
+        if (told) {
+            EXPECT_EQ(messages.presenter.shown.back().text,
+                      "Please enter an integer between 1 and 256.");
+        }
+        messagesBefore = messages.presenter.shown.size();
+    }
+    ASSERT_EQ(editor.Entries().size(), 3u);
+    EXPECT_EQ(editor.Rows()[0].size, "16 x 24");
+    EXPECT_EQ(editor.Rows()[0].depth, "Monochrome");
+    EXPECT_EQ(editor.Rows()[1].compressed, "Yes");
+    EXPECT_EQ(editor.Rows()[1].depth, "Alpha");
+    EXPECT_EQ(editor.Rows()[2].depth, "256 Colors");
+    while (editor.Entries().size() < 65)
+        editor.AddItem(16, 16, 32, false);
+    EXPECT_FALSE(editor.AddItemText("16", "16", 4, 0));
+    EXPECT_EQ(messages.presenter.shown.back().text, "You cannot add anymore icons.");
+}
+
+TEST_F(TemplateEditing, AViewedShippedTemplateRefusesEveryChange) {
+    IconTemplate shipped;
+    shipped.name = "Shipped";
+    shipped.path = (user / "Shipped.ini").string();
+    shipped.lock = "LOCKED";
+    shipped.entries.resize(2);
+    editor.ViewTemplate(shipped);
+    EXPECT_TRUE(editor.ReadOnly());
+    EXPECT_EQ(editor.Rows().size(), 2u);
+    editor.SelectRow(1);
+    EXPECT_FALSE(editor.AddItemText("16", "16", 0, 0));
+    EXPECT_FALSE(editor.RemoveItem());
+    EXPECT_FALSE(editor.MoveUp());
+    EXPECT_FALSE(editor.Save("Shipped"));
+    EXPECT_FALSE(editor.SaveTemplatesAs("Copy"));
+    EXPECT_EQ(messages.presenter.shown.size(), 5u);
+    for (const auto& shown : messages.presenter.shown)
+        EXPECT_EQ(shown.text, "This template cannot be edited.");
+    EXPECT_EQ(editor.Entries(), shipped.entries);
+    EXPECT_FALSE(std::filesystem::exists(shipped.path));
+    EXPECT_FALSE(std::filesystem::exists(user / "Copy.ini"));
+    editor.NewTemplate();
+    EXPECT_FALSE(editor.ReadOnly());
+}
+
+TEST_F(TemplateEditing, SavingANewTemplateAsksBeforeReplacingOne) {
+    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
+    editor.NewTemplate();
+    editor.AddItem(16, 16, 8, false);
+    EXPECT_FALSE(editor.Save("a:b"));
+    EXPECT_EQ(messages.presenter.shown.back().key, "TemplateName");
+    messages.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(editor.Save("Mine"));
+    EXPECT_EQ(messages.presenter.shown.back().text,
+              "The file " + (user / "Mine.ini").string() + " already exists.  OK to overwrite?");
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->front().Width(), 48);
+    EXPECT_EQ(editor.Name(), "NEW");
+    messages.presenter.answer = MessageAnswer::Yes;
+    ASSERT_TRUE(editor.Save("Mine"));
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->front().Width(), 16);
+    // From now on Save writes the same file without asking.
+    const std::size_t asked = messages.presenter.shown.size();
+    editor.AddItem(32, 32, 8, false);
+    ASSERT_TRUE(editor.Save("ignored"));
+    EXPECT_EQ(messages.presenter.shown.size(), asked);
+    EXPECT_EQ(ReadTemplateFile(user / "Mine.ini")->size(), 2u);
+}
+
+TEST_F(TemplateEditing, DeletingAsksAndSparesTheProgramsTemplates) {
+    WriteText(user / "Mine.ini", "48,48,32,0\r\n");
+    IconTemplate mine{"Mine", (user / "Mine.ini").string(), "", {}};
+    messages.presenter.answer = MessageAnswer::No;
+    EXPECT_FALSE(DeleteTemplate(mine, messages.service));
+    EXPECT_EQ(messages.presenter.shown.back().text,
+              "Delete the template \"Mine\"?  This cannot be undone.");
+    EXPECT_TRUE(std::filesystem::exists(mine.path));
+    messages.presenter.answer = MessageAnswer::Yes;
+    EXPECT_TRUE(DeleteTemplate(mine, messages.service));
+    EXPECT_FALSE(std::filesystem::exists(mine.path));
+    WriteText(user / "Shipped.ini", "48,48,32,0\r\n");
+    IconTemplate shipped{"Shipped", (user / "Shipped.ini").string(), "LOCKED", {}};
+    EXPECT_FALSE(DeleteTemplate(shipped, messages.service));
+    EXPECT_EQ(messages.presenter.shown.back().text, "This template cannot be edited.");
+    EXPECT_TRUE(std::filesystem::exists(shipped.path));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
+// The XML stores: paths, defaults, entities, booleans, the file layout and broken files.
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 #include "services/core/XmlStore.h"
 #include "support/TestSupport.h"
@@ -8,55 +7,35 @@
 namespace iw {
 namespace {
 
-TEST(XmlStore, EmptyStoreAndDefaultsOnEveryMissingStep) {
-    XmlStore store;
-    EXPECT_EQ(store.ToString(), "<XML></XML>");
-    EXPECT_EQ(store.GetValue("Settings\\Width", "8000"), "8000");
-    store.SetValue("Settings\\Width", "1234");
-    EXPECT_EQ(store.GetValue("Settings\\Height", "8000"), "8000");
-    EXPECT_EQ(store.GetValue("Other\\Width", "x"), "x");
-    EXPECT_EQ(store.GetValue("Settings\\Width\\Deeper", "d"), "d");
-    EXPECT_EQ(store.GetValue("", "e"), "e");
+std::string FileText(const std::filesystem::path& file) {
+    const auto bytes = test::ReadFileBytes(file);
+    return {bytes.begin(), bytes.end()};
 }
 
-TEST(XmlStore, LeadingAndTrailingBackslashesAreIgnored) {
+TEST(XmlStore, PathsDefaultsAndSiblings) {
     XmlStore store;
-    store.SetValue("\\Settings\\Grid\\", "True");
-    EXPECT_EQ(store.GetValue("Settings\\Grid", "False"), "True");
-    EXPECT_EQ(store.GetValue("\\Settings\\Grid", "False"), "True");
+    EXPECT_EQ(store.GetValue("Settings\\Width", "8000"), "8000");
+    store.SetValue("\\Settings\\Width\\", "1");  // outer backslashes do not count
+    store.SetValue("Settings\\Height", "2");
+    store.SetValue("Settings\\Width", "3");
+    for (const char* unwritable : {"", "\\\\", "Settings\\Bad Name", "Settings\\<evil>"})
+        store.SetValue(unwritable, "x");
     EXPECT_EQ(store.ToString(),
-              "<XML>\r\n<Settings>\r\n<Grid>True</Grid>\r\n</Settings>\r\n</XML>");
+              "<XML>\r\n<Settings>\r\n<Width>3</Width>\r\n<Height>2</Height>\r\n</Settings>\r\n"
+              "</XML>");
+    EXPECT_EQ(store.GetValue("\\Settings\\Height", ""), "2");
+    for (const char* missing : {"Settings\\Depth", "Other\\Width", "Settings\\Width\\Deeper", ""})
+        EXPECT_EQ(store.GetValue(missing, "d"), "d") << missing;
 }
 
 TEST(XmlStore, TheFiveEntitiesRoundTrip) {
     XmlStore store;
     const std::string value = "a&b<c>d\"e'f";
     store.SetValue("Settings\\RecentFile1", value);
-    const std::string text = store.ToString();
-    EXPECT_NE(text.find("a&amp;b&lt;c&gt;d&quot;e&apos;f"), std::string::npos);
+    EXPECT_NE(store.ToString().find("a&amp;b&lt;c&gt;d&quot;e&apos;f"), std::string::npos);
     XmlStore again;
-    again.LoadFromString(text);
+    again.LoadFromString(store.ToString());
     EXPECT_EQ(again.GetValue("Settings\\RecentFile1", ""), value);
-}
-
-TEST(XmlStore, WritingOverwritesAndKeepsSiblings) {
-    XmlStore store;
-    store.SetValue("Settings\\Width", "1");
-    store.SetValue("Settings\\Height", "2");
-    store.SetValue("Settings\\Width", "3");
-    store.SetValue("Messages\\Bad16Icons", "True");
-    EXPECT_EQ(store.GetValue("Settings\\Width", ""), "3");
-    EXPECT_EQ(store.GetValue("Settings\\Height", ""), "2");
-    EXPECT_EQ(store.GetValue("Messages\\Bad16Icons", ""), "True");
-}
-
-TEST(XmlStore, PathsThatCannotBeElementsAreNotWritten) {
-    XmlStore store;
-    store.SetValue("", "x");
-    store.SetValue("\\\\", "x");
-    store.SetValue("Settings\\Bad Name", "x");
-    store.SetValue("Settings\\<evil>", "x");
-    EXPECT_EQ(store.ToString(), "<XML></XML>");
 }
 
 TEST(XmlStore, BooleansReadTrueFalseAndNumbers) {
@@ -66,38 +45,40 @@ TEST(XmlStore, BooleansReadTrueFalseAndNumbers) {
     store.SetValue("Settings\\C", "-1");
     store.SetValue("Settings\\D", "0");
     store.SetValue("Settings\\E", "maybe");
-    EXPECT_EQ(store.GetValue("Settings\\A", ""), "True");
-    EXPECT_EQ(store.GetValue("Settings\\B", ""), "False");
-    EXPECT_TRUE(store.GetBool("Settings\\A", false));
-    EXPECT_FALSE(store.GetBool("Settings\\B", true));
-    EXPECT_TRUE(store.GetBool("Settings\\C", false));
-    EXPECT_FALSE(store.GetBool("Settings\\D", true));
-    EXPECT_TRUE(store.GetBool("Settings\\E", true));
-    EXPECT_FALSE(store.GetBool("Settings\\E", false));
-    EXPECT_TRUE(store.GetBool("Settings\\Missing", true));
+    EXPECT_EQ(store.GetValue("Settings\\A", "") + store.GetValue("Settings\\B", ""), "TrueFalse");
+    for (bool fallback : {false, true}) {
+        EXPECT_EQ(
+            std::tuple(
+                store.GetBool("Settings\\A", fallback), store.GetBool("Settings\\B", fallback),
+                store.GetBool("Settings\\C", fallback), store.GetBool("Settings\\D", fallback),
+                store.GetBool("Settings\\E", fallback), store.GetBool("Settings\\F", fallback)),
+            std::tuple(true, false, true, false, fallback, fallback));
+    }
 }
 
-TEST(XmlStoreFile, MissingFileIsEmptyAndSaveWritesCrLfLayout) {
+TEST(XmlStoreFile, SavesCrLfLayoutAndOnlyWithAPath) {
     test::TempDir dir;
     XmlStore store;
-    EXPECT_TRUE(store.Load(dir / "settings.xml"));
+    store.SetValue("Settings\\Grid", "True");
+    EXPECT_FALSE(store.Save());
+    EXPECT_TRUE(store.Load(dir / "settings.xml"));  // missing: empty
     EXPECT_EQ(store.ToString(), "<XML></XML>");
     store.SetValue("Settings\\Pixelsize", "32");
     ASSERT_TRUE(store.Save());
-    auto bytes = test::ReadFileBytes(dir / "settings.xml");
-    EXPECT_EQ(std::string(bytes.begin(), bytes.end()),
+    EXPECT_EQ(FileText(dir / "settings.xml"),
               "<XML>\r\n<Settings>\r\n<Pixelsize>32</Pixelsize>\r\n</Settings>\r\n</XML>");
     XmlStore reread;
     ASSERT_TRUE(reread.Load(dir / "settings.xml"));
     EXPECT_EQ(reread.GetValue("Settings\\Pixelsize", ""), "32");
+    store.Clear();
+    ASSERT_TRUE(store.Save());
+    EXPECT_EQ(FileText(dir / "settings.xml"), "<XML></XML>");
 }
 
 TEST(XmlStoreFile, MalformedFileReadsEmptyAndIsRewrittenOnSave) {
     test::TempDir dir;
-    {
-        std::ofstream out(dir / "messages.xml");
-        out << "<XML><Messages><Bad16Icons>True</Messages>";
-    }
+    const std::string broken = "<XML><Messages><Bad16Icons>True</Messages>";
+    test::WriteFileBytes(dir / "messages.xml", {broken.begin(), broken.end()});
     XmlStore store;
     EXPECT_FALSE(store.Load(dir / "messages.xml"));
     EXPECT_EQ(store.GetValue("Messages\\Bad16Icons", "False"), "False");
@@ -106,24 +87,6 @@ TEST(XmlStoreFile, MalformedFileReadsEmptyAndIsRewrittenOnSave) {
     XmlStore reread;
     EXPECT_TRUE(reread.Load(dir / "messages.xml"));
     EXPECT_EQ(reread.GetValue("Messages\\CreateANI", ""), "True");
-}
-
-TEST(XmlStoreFile, StoreWithoutPathIsNotWritten) {
-    XmlStore store;
-    store.SetValue("Settings\\Grid", "True");
-    EXPECT_FALSE(store.Save());
-}
-
-TEST(XmlStoreFile, ClearEmptiesTheStoreAndTheFileOnSave) {
-    test::TempDir dir;
-    XmlStore store;
-    store.Load(dir / "messages.xml");
-    store.SetValue("Messages\\Bad16Icons", "True");
-    store.Save();
-    store.Clear();
-    ASSERT_TRUE(store.Save());
-    auto bytes = test::ReadFileBytes(dir / "messages.xml");
-    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), "<XML></XML>");
 }
 
 }  // namespace

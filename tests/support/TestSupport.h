@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "services/core/CoreContext.h"
 #include "services/core/MessageService.h"
 #include "services/core/UserInterface.h"
 #include "services/core/XmlStore.h"
@@ -19,6 +20,13 @@ class RecordingPresenter : public IMessagePresenter {
     MessageBoxResult Present(const MessageBoxRequest& request) override {
         shown.push_back(request);
         return {answer, suppressNext};
+    }
+    // The keys of the messages shown, in order.
+    std::vector<std::string> Keys() const {
+        std::vector<std::string> keys;
+        for (const MessageBoxRequest& request : shown)
+            keys.push_back(request.key);
+        return keys;
     }
     std::vector<MessageBoxRequest> shown;
     MessageAnswer answer = MessageAnswer::Ok;
@@ -67,6 +75,15 @@ class TempDir {
 
   private:
     std::filesystem::path path_;
+};
+
+// The core's context over recorders, with a scratch folder: what readers, writers and the
+// picture commands are given in the tests.
+struct CoreFixture : MessageFixture {
+    RecordingProgress progress;
+    RecordingLog log;
+    CoreContext context{service, progress, log};
+    TempDir dir;
 };
 
 }  // namespace iw::test

@@ -17,6 +17,7 @@
 #include "document/io/IconFileWriter.h"
 #include "document/io/PngEntryDecoder.h"
 #include "services/core/XmlStore.h"
+#include "support/TestImages.h"
 
 namespace iw::test {
 
@@ -34,16 +35,6 @@ struct SilentContext {
     NullLog log;
     CoreContext core{messages, progress, log};
 };
-
-// Both planes equal over the image's own extent, read without changing either image.
-inline bool SamePixels(const IconImage& a, const IconImage& b) {
-    for (int y = 0; y < a.info.Height(); ++y) {
-        for (int x = 0; x < a.info.Width(); ++x) {
-            if (a.Color(x, y) != b.Color(x, y) || a.Alpha(x, y) != b.Alpha(x, y)) return false;
-        }
-    }
-    return true;
-}
 
 // Every PNG stream in an icon file we wrote has the directory sides of its own IHDR.
 inline bool PngEntriesHaveTheirOwnSides(std::span<const std::uint8_t> ico) {

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "services/core/CheckedBytes.h"
+
 namespace iw::png {
 
 int Channels(std::uint8_t colorType) {
@@ -41,6 +43,20 @@ bool IsValidHeader(const Header& header) {
     return header.width >= 1 && header.width <= kMaxChunkLength && header.height >= 1 &&
            header.height <= kMaxChunkLength && IsValidDepth(header.colorType, header.bitDepth) &&
            header.compression == 0 && header.filter == 0 && header.interlace <= 1;
+}
+
+std::optional<Header> ReadHeader(std::span<const std::uint8_t> data) {
+    if (data.size() != kHeaderLength) return std::nullopt;
+    Header h;
+    h.width = LoadBE32(data.data());
+    h.height = LoadBE32(data.data() + 4);
+    h.bitDepth = data[8];
+    h.colorType = data[9];
+    h.compression = data[10];
+    h.filter = data[11];
+    h.interlace = data[12];
+    if (!IsValidHeader(h)) return std::nullopt;
+    return h;
 }
 
 std::size_t FilterStride(std::uint8_t colorType, std::uint8_t bitDepth) {

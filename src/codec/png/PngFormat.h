@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace iw::png {
 
@@ -69,6 +70,8 @@ int Channels(std::uint8_t colorType);
 bool IsValidDepth(std::uint8_t colorType, std::uint8_t bitDepth);
 // Width, height (1 .. 2^31 - 1), depth and type, compression 0, filter 0, interlace 0 or 1.
 bool IsValidHeader(const Header& header);
+// The IHDR chunk's data: exactly 13 bytes holding a valid header, else nullopt.
+std::optional<Header> ReadHeader(std::span<const std::uint8_t> data);
 
 // Bytes from one pixel to the same sample of the next, at least 1: the distance the row
 // filters use.

@@ -334,16 +334,10 @@ PngError cPNGParser::ParseChunks(ChunkSource& source, const DecodeLimits& limits
 }
 
 PngError cPNGParser::ParseHeader(std::span<const std::uint8_t> data, const DecodeLimits& limits) {
-    if (haveHeader_ || data.size() != png::kHeaderLength) return PngError::BadHeader;
-    png::Header h;
-    h.width = LoadBE32(data.data());
-    h.height = LoadBE32(data.data() + 4);
-    h.bitDepth = data[8];
-    h.colorType = data[9];
-    h.compression = data[10];
-    h.filter = data[11];
-    h.interlace = data[12];
-    if (!png::IsValidHeader(h)) return PngError::BadHeader;
+    if (haveHeader_) return PngError::BadHeader;
+    const std::optional<png::Header> read = png::ReadHeader(data);
+    if (!read) return PngError::BadHeader;
+    const png::Header& h = *read;
     // Refused before anything is allocated for it; the layout checks the raw size.
     if (!FitsLimits(h.width, h.height, limits) || !png::LayoutOf(h)) return PngError::TooLarge;
     header_ = h;

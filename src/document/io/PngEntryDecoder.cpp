@@ -66,20 +66,10 @@ class PngEntryPixels final : public IconImage::PendingPixels {
 };
 
 std::optional<PngSides> SidesOfHeader(std::span<const std::uint8_t> data) {
-    if (data.size() != png::kHeaderLength) return std::nullopt;
-    png::Header h;
-    h.width = LoadBE32(data.data());
-    h.height = LoadBE32(data.data() + 4);
-    h.bitDepth = data[8];
-    h.colorType = data[9];
-    h.compression = data[10];
-    h.filter = data[11];
-    h.interlace = data[12];
-    if (!png::IsValidHeader(h) || !FitsLimits(h.width, h.height, IconEntryLimits()) ||
-        !png::LayoutOf(h)) {
+    const std::optional<png::Header> h = png::ReadHeader(data);
+    if (!h || !FitsLimits(h->width, h->height, IconEntryLimits()) || !png::LayoutOf(*h))
         return std::nullopt;
-    }
-    return PngSides{static_cast<int>(h.width), static_cast<int>(h.height)};
+    return PngSides{static_cast<int>(h->width), static_cast<int>(h->height)};
 }
 
 }  // namespace

@@ -13,6 +13,12 @@ inline constexpr TextId TemplatesFolderMissing{
     "The Templates folder could not be found.  Please reinstall Iconwright."};
 inline constexpr TextId TemplateLocked{"TemplateLocked", "Messages",
                                        "This template cannot be edited."};
+inline constexpr TextId TemplateName{
+    "TemplateName", "Messages",
+    "Please enter a name for the template.  A name cannot contain any of the characters "
+    "\\ / : * ? \" < > |"};
+inline constexpr TextId DeleteTemplate{"DeleteTemplate", "Messages",
+                                       "Delete the template \"%f\"?  This cannot be undone."};
 
 // The colour depths as the template editor shows them, in the order of the old-style
 // colour indexes 0..4.

@@ -1,6 +1,10 @@
 #include "services/desktop/TemplateEditor.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <system_error>
 
 #include "services/desktop/DesktopTexts.h"
 #include "services/desktop/TemplateFile.h"
@@ -21,6 +25,19 @@ bool ValidTemplateName(std::string_view name) {
     return true;
 }
 
+// A side typed into the editor: a whole number from 1 to 256, else nothing.
+std::optional<int> SideFromText(std::string_view text) {
+    if (!TemplateEditor::IsInteger(text)) return std::nullopt;
+    if (text.front() == '+') text.remove_prefix(1);
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    if (value < 1 || value > 256) return std::nullopt;
+    return value;
+}
+
+constexpr std::array<int, 5> kDepthBits = {1, 4, 8, 24, 32};
+
 std::string SizeText(const TemplateEntry& entry) {
     return std::to_string(entry.Width()) + " x " + std::to_string(entry.Height());
 }
@@ -31,7 +48,14 @@ TemplateEditor::TemplateEditor(MessageService& messages, std::filesystem::path u
                                ITemplateEditorObserver* observer)
     : messages_(messages), userFolder_(std::move(userFolder)), observer_(observer) {}
 
+bool TemplateEditor::Editable() const {
+    if (!readOnly_) return true;
+    messages_.Show(texts::TemplateLocked, MessageType::Exclamation);
+    return false;
+}
+
 void TemplateEditor::NewTemplate() {
+    readOnly_ = false;
     name_ = std::string(kNewName);
     path_.clear();
     entries_.clear();
@@ -46,6 +70,12 @@ bool TemplateEditor::OpenTemplates(const IconTemplate& source) {
         messages_.Show(texts::TemplateLocked, MessageType::Exclamation);
         return false;
     }
+    ViewTemplate(source);
+    return true;
+}
+
+void TemplateEditor::ViewTemplate(const IconTemplate& source) {
+    readOnly_ = source.Locked();
     name_ = source.name;
     path_ = source.path;
     entries_ = source.entries;
@@ -53,11 +83,10 @@ bool TemplateEditor::OpenTemplates(const IconTemplate& source) {
     modified_ = false;
     TemplateChanged();
     RowsChanged();
-    return true;
 }
 
 bool TemplateEditor::SaveTemplates() {
-    if (path_.empty()) return false;
+    if (path_.empty() || !Editable()) return false;
     if (!WriteTemplateFile(path_, entries_)) return false;
     modified_ = false;
     TemplateChanged();
@@ -65,7 +94,7 @@ bool TemplateEditor::SaveTemplates() {
 }
 
 bool TemplateEditor::SaveTemplatesAs(std::string_view name) {
-    if (!ValidTemplateName(name) || userFolder_.empty()) return false;
+    if (!ValidTemplateName(name) || userFolder_.empty() || !Editable()) return false;
     const std::filesystem::path file = userFolder_ / (std::string(name) + ".ini");
     if (!WriteTemplateFile(file, entries_)) return false;
     name_ = std::string(name);
@@ -75,7 +104,45 @@ bool TemplateEditor::SaveTemplatesAs(std::string_view name) {
     return true;
 }
 
+bool TemplateEditor::Save(std::string_view name) {
+    if (!Editable()) return false;
+    if (!path_.empty()) return SaveTemplates();
+    if (!ValidTemplateName(name)) {
+        messages_.Show(texts::TemplateName, MessageType::Exclamation);
+        return false;
+    }
+    const std::filesystem::path file = userFolder_ / (std::string(name) + ".ini");
+    std::error_code error;
+    if (std::filesystem::exists(file, error)) {
+        const std::string text =
+            ReplacePlaceholder(GetText(iw::texts::OverwriteFile), "%f", file.string());
+        if (messages_.ShowMessage(iw::texts::OverwriteFile.key, text, texts::kProgramTitle,
+                                  MessageType::Exclamation, false,
+                                  MessageButtons::YesNo) != MessageAnswer::Yes)
+            return false;
+    }
+    return SaveTemplatesAs(name);
+}
+
+bool TemplateEditor::AddItemText(std::string_view width, std::string_view height, int depthIndex,
+                                 int compressedIndex) {
+    if (!Editable()) return false;
+    if (entries_.size() >= static_cast<std::size_t>(IconTemplate::kMaxEntries)) {
+        messages_.Show(texts::IconLimit, MessageType::Exclamation);
+        return false;
+    }
+    const std::optional<int> w = SideFromText(width);
+    const std::optional<int> h = SideFromText(height);
+    if (!w || !h) {
+        messages_.Show(texts::Integer256From1, MessageType::Exclamation);
+        return false;
+    }
+    if (depthIndex < 0 || depthIndex >= static_cast<int>(kDepthBits.size())) return false;
+    return AddItem(*w, *h, kDepthBits[static_cast<std::size_t>(depthIndex)], compressedIndex == 1);
+}
+
 bool TemplateEditor::AddItem(int width, int height, int bits, bool compressed) {
+    if (!Editable()) return false;
     if (entries_.size() >= static_cast<std::size_t>(IconTemplate::kMaxEntries)) return false;
     if (width < 1 || width > 256 || height < 1 || height > 256 || !ValidDepth(bits)) return false;
     TemplateEntry entry;
@@ -91,7 +158,7 @@ bool TemplateEditor::AddItem(int width, int height, int bits, bool compressed) {
 }
 
 bool TemplateEditor::RemoveItem() {
-    if (selected_ < 0) return false;
+    if (selected_ < 0 || !Editable()) return false;
     entries_.erase(entries_.begin() + selected_);
     if (selected_ >= static_cast<int>(entries_.size()))
         selected_ = static_cast<int>(entries_.size()) - 1;
@@ -101,7 +168,7 @@ bool TemplateEditor::RemoveItem() {
 }
 
 bool TemplateEditor::MoveUp() {
-    if (selected_ <= 0) return false;
+    if (selected_ <= 0 || !Editable()) return false;
     std::swap(entries_[static_cast<std::size_t>(selected_)],
               entries_[static_cast<std::size_t>(selected_ - 1)]);
     --selected_;
@@ -111,7 +178,8 @@ bool TemplateEditor::MoveUp() {
 }
 
 bool TemplateEditor::MoveDown() {
-    if (selected_ < 0 || selected_ + 1 >= static_cast<int>(entries_.size())) return false;
+    if (selected_ < 0 || selected_ + 1 >= static_cast<int>(entries_.size()) || !Editable())
+        return false;
     std::swap(entries_[static_cast<std::size_t>(selected_)],
               entries_[static_cast<std::size_t>(selected_ + 1)]);
     ++selected_;
@@ -183,6 +251,20 @@ std::vector<TemplateRowText> TemplateEditor::Rows() const {
                         GetText(entry.compressed ? texts::CompressedYes : texts::CompressedNo)});
     }
     return rows;
+}
+
+bool DeleteTemplate(const IconTemplate& source, MessageService& messages) {
+    if (source.Locked()) {
+        messages.Show(texts::TemplateLocked, MessageType::Exclamation);
+        return false;
+    }
+    const std::string text = ReplacePlaceholder(GetText(texts::DeleteTemplate), "%f", source.name);
+    if (messages.ShowMessage(texts::DeleteTemplate.key, text, texts::kProgramTitle,
+                             MessageType::Question, false,
+                             MessageButtons::YesNo) != MessageAnswer::Yes)
+        return false;
+    std::error_code error;
+    return std::filesystem::remove(source.path, error) && !error;
 }
 
 }  // namespace iw

@@ -43,16 +43,30 @@ class TemplateEditor {
     // Reads a template into the list. A locked template cannot be edited: "This template
     // cannot be edited." is shown and false returned, leaving the editor as it was.
     bool OpenTemplates(const IconTemplate& source);
+    // Shows a template's rows without letting them change (the program's own templates):
+    // every change and every save is refused with "This template cannot be edited.".
+    void ViewTemplate(const IconTemplate& source);
+    bool ReadOnly() const { return readOnly_; }
     // Writes the list to the template's file, one line per entry, first to last.
     bool SaveTemplates();
     // Saves under a new name, "<name>.ini" in the user's templates folder, and keeps
     // editing that file. A name that is empty, holds a path separator or a character that
     // file names cannot hold on Windows is refused.
     bool SaveTemplatesAs(std::string_view name);
+    // The Save button: a template that has its file is written back; a new one is saved
+    // under `name`, asking "The file %f already exists.  OK to overwrite?" before it
+    // replaces a file. A name that cannot be a file name shows a message and saves nothing.
+    bool Save(std::string_view name);
 
     // Adds a format after the last row and selects it. Refused (false) when the list holds
     // 65 entries, or a side is outside 1..256, or the depth is not 1, 4, 8, 24 or 32.
     bool AddItem(int width, int height, int bits, bool compressed);
+    // The Add button with what the boxes hold: the width and height texts, the index chosen
+    // in AddColorList() and in AddCompressedList(). A side that is not a whole number from 1
+    // to 256 shows "Please enter an integer between 1 and 256."; a full list "You cannot add
+    // anymore icons.".
+    bool AddItemText(std::string_view width, std::string_view height, int depthIndex,
+                     int compressedIndex);
     // Removes the selected row; the row that follows it (or the new last row) is selected.
     bool RemoveItem();
     // Moves the selected row one place up or down, keeping it selected.
@@ -83,6 +97,8 @@ class TemplateEditor {
     bool Modified() const { return modified_; }
 
   private:
+    // False, after the message, when the template is only being viewed.
+    bool Editable() const;
     void RowsChanged() const {
         if (observer_) observer_->RowsChanged();
     }
@@ -98,6 +114,11 @@ class TemplateEditor {
     std::vector<TemplateEntry> entries_;
     int selected_ = -1;
     bool modified_ = false;
+    bool readOnly_ = false;
 };
+
+// Deletes one of the user's templates after asking "Delete the template "%f"?" (Yes/No).
+// The program's own templates are refused with "This template cannot be edited.".
+bool DeleteTemplate(const IconTemplate& source, MessageService& messages);
 
 }  // namespace iw

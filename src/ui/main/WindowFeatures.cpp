@@ -1,11 +1,15 @@
 #include "ui/main/WindowFeatures.h"
 
 #include "ui/animation/AnimationMenu.h"
+#include "ui/main/OptionsMenu.h"
+#include "ui/main/EditFeatures.h"
 
 namespace iw::ui {
 
 // One line per window, in the order their commands should appear in shared menus.
 void InstallWindowFeatures(MainWindow& window) {
+    InstallOptionsMenu(window);
+    InstallEditFeatures(window);
     InstallAnimationMenu(window);
 }
 

@@ -18,6 +18,7 @@ const QColor kInvertedGround(74, 85, 104);
 const QColor kInvertedHatch(200, 210, 224);
 const QColor kGridColor(110, 118, 130, 140);
 const QColor kHotspotColor(220, 38, 38);
+constexpr int kDash = 4;  // the outlines' dashes and gaps, in pixels
 
 // A brush whose tile is drawn at the device's resolution, so that filling with it copies
 // the tile instead of scaling it. `paint` draws one tile in logical pixels.
@@ -140,6 +141,19 @@ void PaintCells(QPainter& painter, const QRect& area, const PixelPicture& pictur
     if (!picture.inverted.isNull()) PaintInverted(painter, area, span, picture, size);
 }
 
+// A marching outline just inside `box`: black dashes over white, so it shows on any colour.
+void PaintOutline(QPainter& painter, const QRect& box, int dashOffset) {
+    const QRect outline = box.adjusted(0, 0, -1, -1);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 0));
+    painter.drawRect(outline);
+    QPen dashes(Qt::black, 0, Qt::CustomDashLine);
+    dashes.setDashPattern({kDash, kDash});
+    dashes.setDashOffset(dashOffset % (2 * kDash));
+    painter.setPen(dashes);
+    painter.drawRect(outline);
+}
+
 void PaintFloating(QPainter& painter, const QRect& exposed, const CanvasScene& scene) {
     const int size = scene.pixelSize;
     const QRect box(scene.floatingOrigin * size, scene.floating->Size() * size);
@@ -150,15 +164,14 @@ void PaintFloating(QPainter& painter, const QRect& exposed, const CanvasScene& s
         PaintCells(painter, area.translated(-box.topLeft()), *scene.floating, size);
         painter.restore();
     }
-    const QRect outline = box.adjusted(0, 0, -1, -1);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, 0));
-    painter.drawRect(outline);
-    painter.setPen(QPen(Qt::black, 0, Qt::DashLine));
-    painter.drawRect(outline);
 }
 
 }  // namespace
+
+QRegion OutlineRegion(const QRect& cells, int pixelSize) {
+    const QRect box(cells.topLeft() * pixelSize, cells.size() * pixelSize);
+    return QRegion(box).subtracted(QRegion(box.adjusted(1, 1, -1, -1)));
+}
 
 void PaintCanvas(QPainter& painter, const QRect& exposed, const CanvasScene& scene) {
     if (!scene.picture || scene.picture->colors.isNull() || scene.pixelSize < 1) return;
@@ -175,6 +188,15 @@ void PaintCanvas(QPainter& painter, const QRect& exposed, const CanvasScene& sce
     if (scene.floating && !scene.floating->colors.isNull()) PaintFloating(painter, exposed, scene);
     if (scene.showGrid && size >= kMinGridPixelSize)
         PaintGrid(painter, CellsUnder(area, scene.picture->Size(), size), size);
+    // The outlines over the grid, so its lines do not break them.
+    if (scene.floating && !scene.floating->colors.isNull()) {
+        PaintOutline(painter, QRect(scene.floatingOrigin * size, scene.floating->Size() * size),
+                     scene.dashOffset);
+    }
+    if (scene.band) {
+        PaintOutline(painter, QRect(scene.band->topLeft() * size, scene.band->size() * size),
+                     scene.dashOffset);
+    }
     if (scene.hotspot) PaintHotspot(painter, *scene.hotspot, size);
     painter.restore();
 }

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimerEvent>
 #include <cmath>
 
 #include "ui/UiText.h"
@@ -46,6 +47,12 @@ std::optional<CanvasKey> CanvasKeyOf(int key) {
     }
 }
 
+constexpr int kMarchInterval = 120;  // milliseconds a step of the dashes
+
+QRect QRectOf(const CellRect& cells) {
+    return {cells.x, cells.y, cells.width, cells.height};
+}
+
 }  // namespace
 
 CanvasWidget::CanvasWidget(Editor& editor, CurrentPicture& picture, QWidget* parent)
@@ -65,6 +72,48 @@ void CanvasWidget::ViewChanged() {
 void CanvasWidget::ToolChanged() {
     toolCursor_.reset();
     setCursor(CurrentToolCursor());
+}
+
+void CanvasWidget::SelectionChanged() {
+    if (Outlined().empty()) {
+        march_.stop();
+    } else if (!march_.isActive()) {
+        march_.start(kMarchInterval, this);
+    }
+    update();
+    if (hover_) Hover(*hover_);
+}
+
+void CanvasWidget::HotspotChanged() {
+    update();
+    setCursor(editor_.Hotspot().Setting() ? QCursor(Qt::CrossCursor) : CurrentToolCursor());
+    if (hover_) Hover(*hover_);
+}
+
+std::vector<QRect> CanvasWidget::Outlined() const {
+    std::vector<QRect> outlined;
+    if (const IFloatingSelection* selection = editor_.Canvas().FloatingSelection())
+        outlined.push_back(QRectOf(selection->Rect()));
+    if (const std::optional<CellRect> band = editor_.Canvas().RubberBand())
+        outlined.push_back(QRectOf(*band));
+    return outlined;
+}
+
+void CanvasWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != march_.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    const std::vector<QRect> outlined = Outlined();
+    if (outlined.empty()) {
+        march_.stop();
+        return;
+    }
+    ++dashOffset_;
+    QRegion dirty;
+    for (const QRect& cells : outlined)
+        dirty += OutlineRegion(cells, editor_.View().State().PixelSize);
+    update(dirty);
 }
 
 const QCursor& CanvasWidget::CurrentToolCursor() {
@@ -93,7 +142,11 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
         scene.floating = &floating;
         scene.floatingOrigin = QPoint(selection->Origin().x, selection->Origin().y);
     }
-    PaintCanvas(painter, event->rect(), scene);
+    if (const std::optional<CellRect> band = editor_.Canvas().RubberBand())
+        scene.band = QRectOf(*band);
+    scene.dashOffset = dashOffset_;
+    for (const QRect& exposed : event->region())
+        PaintCanvas(painter, exposed, scene);
     emit Painted();
 }
 
@@ -126,8 +179,11 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CanvasWidget::Hover(Point cell) {
+    hover_ = cell;
     emit StatusTextChanged(QStr(editor_.Canvas().StatusTextAt(cell)));
-    if (editor_.Canvas().CursorAt(cell) == CursorHint::Move) {
+    if (editor_.Hotspot().Setting()) {
+        setCursor(Qt::CrossCursor);
+    } else if (editor_.Canvas().CursorAt(cell) == CursorHint::Move) {
         setCursor(Qt::SizeAllCursor);
     } else {
         setCursor(CurrentToolCursor());
@@ -135,6 +191,7 @@ void CanvasWidget::Hover(Point cell) {
 }
 
 void CanvasWidget::leaveEvent(QEvent* event) {
+    hover_.reset();
     emit StatusTextChanged(QString());
     QWidget::leaveEvent(event);
 }

@@ -1,7 +1,9 @@
 #pragma once
 // picIcon: the drawing surface. Paints the image being edited at PixelSize screen pixels a
-// cell, and hands mouse and key events to the editor's canvas in image cells.
+// cell, and hands mouse and key events to the editor's canvas in image cells. A floating
+// selection and the rectangle being dragged out are outlined with marching dashes.
 
+#include <QBasicTimer>
 #include <QCursor>
 #include <QWidget>
 #include <optional>
@@ -21,6 +23,11 @@ class CanvasWidget final : public QWidget {
     void ImageChanged() { update(); }
     void ViewChanged();
     void ToolChanged();
+    // The floating selection or the dragged rectangle changed: repaint, and let the dashes
+    // march while either shows.
+    void SelectionChanged();
+    // The hotspot moved, or setting it began or ended: the marker and the cursor.
+    void HotspotChanged();
 
   signals:
     // The status bar text for the pixel under the mouse ("" when it leaves the image).
@@ -35,18 +42,24 @@ class CanvasWidget final : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
   private:
     Point CellAt(const QPointF& position) const;
     // The status text and the cursor for the cell under the mouse.
     void Hover(Point cell);
     const QCursor& CurrentToolCursor();
+    // The cells outlined with marching dashes (floating selection, dragged rectangle).
+    std::vector<QRect> Outlined() const;
 
     Editor& editor_;
     CurrentPicture& picture_;
     std::optional<Qt::MouseButton> pressed_;  // the button of the stroke under way
     std::optional<QCursor> toolCursor_;
     qreal cursorRatio_ = 0;
+    std::optional<Point> hover_;  // the cell under the mouse
+    QBasicTimer march_;
+    int dashOffset_ = 0;
 };
 
 }  // namespace iw::ui

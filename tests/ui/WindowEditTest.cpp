@@ -1,0 +1,181 @@
+// The Edit menu, the Select and Text tools and Set Hotspot driven through the main window:
+// a selection lifted, moved and dropped, text placed, pictures pasted from the system
+// clipboard and copied to it, the hotspot set by a click, and Undo back.
+#include <QClipboard>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+
+#include "WindowFixture.h"
+
+namespace iw::test {
+namespace {
+
+const PackedColor kRed = PackColor(255, 0, 0);
+const PackedColor kBlue = PackColor(0, 0, 255);
+
+struct WindowEdit : WindowTest {
+    // A pixel in that colour, drawn with the small square pencil.
+    void Plot(Point cell, PackedColor color) {
+        ChooseFromPalette(color);
+        QTest::keyClick(window.get(), Qt::Key_P);
+        Stroke({cell});
+        ASSERT_EQ(PixelAt(cell), color);
+    }
+    const IFloatingSelection* Floating() { return editor().Canvas().FloatingSelection(); }
+    // Cells of the image that hold `color` at full alpha.
+    int CountOf(PackedColor color) {
+        const IconImage& image = editor().CurrentImage();
+        int count = 0;
+        for (int x = 0; x < image.info.Width(); ++x) {
+            for (int y = 0; y < image.info.Height(); ++y)
+                count += image.Color(x, y) == color && image.Alpha(x, y) > 0;
+        }
+        return count;
+    }
+    // Runs `answer` on the modal window the next step opens.
+    void WhenModal(const char* name, std::function<void(QWidget&)> answer) {
+        QTimer::singleShot(0, window.get(), [name, answer = std::move(answer)] {
+            QWidget* modal = QApplication::activeModalWidget();
+            ASSERT_NE(modal, nullptr);
+            EXPECT_EQ(modal->objectName(), QString::fromLatin1(name));
+            answer(*modal);
+        });
+    }
+};
+
+TEST_F(WindowEdit, ASelectionIsLiftedMovedByMouseAndKeysAndDroppedTransparent) {
+    Start();
+    ASSERT_EQ(editor().CurrentImage().info.bitCount, 32);
+    Plot({2, 2}, kRed);
+    Plot({7, 4}, kBlue);  // lies under a clear cell of the selection once it is moved
+    const PackedColor clear = PixelAt({1, 1});
+    ASSERT_NE(clear, kRed);
+
+    QTest::keyClick(window.get(), Qt::Key_S);
+    QTest::mouseClick(Find<QToolButton>("picTransparent"), Qt::LeftButton);
+    ASSERT_EQ(editor().Tools().State().Selection, SelectionMode::Transparent);
+    Stroke({{1, 1}, {2, 2}, {3, 3}});
+    ASSERT_NE(Floating(), nullptr);
+    EXPECT_EQ(Floating()->Rect(), (CellRect{1, 1, 3, 3}));
+    EXPECT_EQ(PixelAt({2, 2}), TransparentColor);  // the hole it leaves
+    EXPECT_TRUE(Find<QAction>("mnuUndo")->isEnabled());
+
+    Stroke({{2, 2}, {4, 3}, {5, 5}});  // grabbed inside: moved by (3, 3)
+    QTest::keyClick(window->Canvas(), Qt::Key_Right);
+    QTest::keyClick(window->Canvas(), Qt::Key_Up);
+    EXPECT_EQ(Floating()->Origin(), (Point{5, 3}));
+    EXPECT_EQ(PixelAt({6, 4}), clear);  // nothing lands before the drop
+
+    QTest::keyClick(window->Canvas(), Qt::Key_Return);
+    EXPECT_EQ(Floating(), nullptr);
+    EXPECT_EQ(PixelAt({6, 4}), kRed);
+    EXPECT_EQ(PixelAt({7, 4}), kBlue);  // a clear cell dropped transparent keeps the image's
+
+    Trigger("mnuUndo");
+    EXPECT_EQ(PixelAt({2, 2}), kRed);
+    EXPECT_EQ(PixelAt({6, 4}), clear);
+    EXPECT_EQ(PixelAt({7, 4}), kBlue);
+}
+
+TEST_F(WindowEdit, TheTextWindowPlacesTextInTheForeColorAsAFloatingSelection) {
+    Start();
+    ChooseFromPalette(kBlue);
+    // Cancelled: nothing floats.
+    WhenModal("frmText", [](QWidget& dialog) {
+        dialog.findChild<QPushButton*>(QStringLiteral("cmdCancel"))->click();
+    });
+    auto* textTool = Find<QToolButton>("tbrToolsText");
+    QTest::mouseClick(textTool, Qt::LeftButton);
+    EXPECT_EQ(Floating(), nullptr);
+
+    WhenModal("frmText", [](QWidget& dialog) {
+        auto* ok = dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"));
+        EXPECT_FALSE(ok->isEnabled());  // no text yet
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>(QStringLiteral("txtText")), "Hi");
+        EXPECT_TRUE(ok->isEnabled());
+        ok->click();
+    });
+    QTest::mouseClick(textTool, Qt::LeftButton);
+    ASSERT_NE(Floating(), nullptr);
+    EXPECT_EQ(editor().Tools().State().CurrentTool, ToolId::Select);
+    EXPECT_TRUE(Find<QWidget>("fraSelection")->isVisible());
+    EXPECT_EQ(CountOf(kBlue), 0);
+
+    QTest::keyClick(window->Canvas(), Qt::Key_Return);
+    EXPECT_GT(CountOf(kBlue), 4);
+    Trigger("mnuUndo");
+    EXPECT_EQ(CountOf(kBlue), 0);
+}
+
+TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
+    Start();
+    QApplication::clipboard()->clear();
+    EXPECT_FALSE(Find<QAction>("mnuPaste")->isEnabled());
+    QImage picture(5, 3, QImage::Format_ARGB32);
+    picture.fill(QColor(0, 0, 255, 128));
+    picture.setPixelColor(4, 2, QColor(255, 0, 0));
+    QApplication::clipboard()->setImage(picture);
+    ASSERT_TRUE(Find<QAction>("mnuPaste")->isEnabled());
+
+    Trigger("mnuPaste");
+    ASSERT_NE(Floating(), nullptr);
+    EXPECT_EQ(Floating()->Rect(), (CellRect{0, 0, 5, 3}));
+    EXPECT_EQ(Floating()->Pixels().Color(0, 0), kBlue);
+    EXPECT_EQ(Floating()->Pixels().Alpha(0, 0), 128);
+    EXPECT_EQ(Floating()->Pixels().Color(4, 2), kRed);
+
+    // Copy puts a PNG that keeps the alpha, and an ordinary image.
+    QApplication::clipboard()->clear();
+    Trigger("mnuCopy");
+    const QMimeData* data = QApplication::clipboard()->mimeData();
+    ASSERT_NE(data, nullptr);
+    ASSERT_TRUE(data->hasFormat(QStringLiteral("image/png")));
+    EXPECT_TRUE(data->hasImage());
+    const QImage png = QImage::fromData(data->data(QStringLiteral("image/png")), "PNG");
+    ASSERT_EQ(png.size(), QSize(5, 3));
+    EXPECT_EQ(png.pixelColor(0, 0), QColor(0, 0, 255, 128));
+
+    // Dropped, the pasted pixels stay; Undo takes the paste back.
+    QTest::keyClick(window->Canvas(), Qt::Key_Escape);
+    EXPECT_EQ(PixelAt({4, 2}), kRed);
+    Trigger("mnuUndo");
+    EXPECT_NE(PixelAt({4, 2}), kRed);
+}
+
+TEST_F(WindowEdit, ALargePictureIsPastedOnlyIfTheUserAgrees) {
+    Start();
+    QImage large(301, 20, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    QApplication::clipboard()->setImage(large);
+    presenter.answers = {MessageAnswer::No, MessageAnswer::Yes};
+    Trigger("mnuPaste");
+    ASSERT_EQ(presenter.shown.size(), 1u);
+    EXPECT_EQ(presenter.shown[0].key, "PastePicture");
+    EXPECT_EQ(Floating(), nullptr);
+    Trigger("mnuPaste");
+    ASSERT_NE(Floating(), nullptr);
+    // Cut to at most the image's largest side.
+    EXPECT_EQ(Floating()->Rect().width, 256);
+}
+
+TEST_F(WindowEdit, SetHotspotIsOfferedForCursorsAndAClickSetsIt) {
+    Start();
+    auto* setHotspot = Find<QAction>("mnuSetHotspot");
+    EXPECT_FALSE(setHotspot->isEnabled());
+    Trigger("mnuCUR");
+    ASSERT_TRUE(setHotspot->isEnabled());
+    setHotspot->trigger();
+    EXPECT_TRUE(setHotspot->isChecked());
+    EXPECT_TRUE(editor().Hotspot().Setting());
+    const PackedColor before = PixelAt({5, 6});
+    Stroke({{5, 6}});
+    EXPECT_EQ(editor().Hotspot().Position(), (Point{5, 6}));
+    EXPECT_FALSE(setHotspot->isChecked());
+    EXPECT_EQ(PixelAt({5, 6}), before);  // the click painted nothing
+}
+
+}  // namespace
+}  // namespace iw::test
