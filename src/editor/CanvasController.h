@@ -60,6 +60,9 @@ class CanvasController final : private IUndoRecorder, public IToolSwitchListener
     bool DropFloatingSelection();
     // A new floating selection (paste, Select All, text); an old one is dropped first.
     void Float(std::unique_ptr<IFloatingSelection> floating);
+    // Hands the floating selection over without dropping it (nullptr when there is none),
+    // for a command that changes its pixels and floats the result again.
+    std::unique_ptr<IFloatingSelection> TakeFloatingSelection() { return std::move(floating_); }
     // Throws the floating selection away (Cut, Delete). False when there was none.
     bool DiscardFloatingSelection();
     // Another tool: the floating selection is dropped, setting the hotspot ends.

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "editor/FloatingPicture.h"
+
 namespace iw {
 
 Editor::Editor(EditorServices services, ToolSet tools)
@@ -74,7 +76,14 @@ bool Editor::Repeat() {
 bool Editor::StepHistory(bool offered, bool (UndoHistory::*step)(IconImage&)) {
     if (!HasImage() || !offered) return false;
     canvas_.DropFloatingSelection();
-    (history_.*step)(*EditedImage());
+    IconImage& image = *EditedImage();
+    const IconInfo sides = image.info;
+    (history_.*step)(image);
+    if (image.info.widthMinus1 != sides.widthMinus1 ||
+        image.info.heightMinus1 != sides.heightMinus1) {
+        ShowCurrentImage();
+        Notify(&IEditorObserver::SetChanged);
+    }
     Notify(&IEditorObserver::ImageChanged);
     Notify(&IEditorObserver::UndoStateChanged);
     return true;
@@ -90,10 +99,17 @@ void Editor::ResetUndosRepeats() {
 std::unique_ptr<ColorAdjustments> Editor::AdjustColors(IAdjustmentsObserver* window) {
     IconImage* image = EditedImage();
     if (!image) return nullptr;
-    canvas_.DropFloatingSelection();
-    AddUndo();
     adjustments_.window = window;
-    return std::make_unique<ColorAdjustments>(*image, &adjustments_);
+    adjustments_.before = std::make_unique<IconImage>(image->Clone());
+    IconImage* target = image;
+    if (std::unique_ptr<IFloatingSelection> taken = canvas_.TakeFloatingSelection()) {
+        // The adjustments work on a floating picture of our own, which stays floating.
+        taken->Drop(*adjustments_.before, tools_.State().Selection);
+        auto floating = std::make_unique<FloatingPicture>(taken->Pixels().Clone(), taken->Origin());
+        target = &floating->EditPixels();
+        canvas_.Float(std::move(floating));
+    }
+    return std::make_unique<ColorAdjustments>(*target, &adjustments_);
 }
 
 void Editor::AdjustmentsRelay::ImageChanged() {
@@ -103,7 +119,27 @@ void Editor::AdjustmentsRelay::ImageChanged() {
 
 void Editor::AdjustmentsRelay::Closed(bool kept) {
     if (window) window->Closed(kept);
-    if (kept) editor_.inspector_.Check();
+    if (kept && before) {
+        editor_.RecordUndo(*before);
+        editor_.inspector_.Check();
+    }
+    before.reset();
+}
+
+// ---- The Image menu's operations ------------------------------------------------------
+
+void Editor::RecordUndo(const IconImage& before) {
+    history_.AddUndo(before);
+    Notify(&IEditorObserver::UndoStateChanged);
+}
+
+void Editor::ImageEdited(bool sidesChanged) {
+    if (sidesChanged) {
+        ShowCurrentImage();
+        Notify(&IEditorObserver::SetChanged);
+    }
+    Notify(&IEditorObserver::ImageChanged);
+    inspector_.Check();
 }
 
 // ---- What the parts report --------------------------------------------------------------

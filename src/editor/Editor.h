@@ -26,6 +26,7 @@
 #include "editor/EditorObserver.h"
 #include "editor/EditorServices.h"
 #include "editor/HotspotControl.h"
+#include "editor/ImageCommands.h"
 #include "editor/ImageListCommands.h"
 #include "editor/InspectorController.h"
 #include "editor/ProgramSettings.h"
@@ -46,7 +47,8 @@ class Editor final : private ICanvasHost,
                      private IDocumentHost,
                      private IInspectorHost,
                      private IHotspotHost,
-                     private IImageListHost {
+                     private IImageListHost,
+                     private IImageCommandHost {
   public:
     explicit Editor(EditorServices services, ToolSet tools = StandardTools());
     Editor(const Editor&) = delete;
@@ -94,10 +96,12 @@ class Editor final : private ICanvasHost,
     const UndoHistory& History() const { return history_; }
 
     // ---- Windows over the image --------------------------------------------------------
-    // The adjustments window's logic on the image being edited (nullptr without one). An
-    // undo snapshot is recorded first. Each recomputation reaches `window` (if any) and the
-    // editor's observers as ImageChanged; when OK closes it the inspector looks again. One
-    // at a time: it must be gone before the next is made or the set changes.
+    // The adjustments window's logic on the floating selection, else on the image being
+    // edited (nullptr without one). Each recomputation reaches `window` (if any) and the
+    // editor's observers as ImageChanged. OK records one undo step (back to the image as it
+    // was, with the selection dropped into it) and the inspector looks again; Cancel leaves
+    // no undo step and the document as modified as it was. One at a time: it must be gone
+    // before the next is made or the set changes.
     std::unique_ptr<ColorAdjustments> AdjustColors(IAdjustmentsObserver* window = nullptr);
 
     // ---- Parts -------------------------------------------------------------------------
@@ -113,6 +117,8 @@ class Editor final : private ICanvasHost,
     const EditCommands& Edit() const { return edit_; }
     HotspotControl& Hotspot() { return hotspot_; }
     const HotspotControl& Hotspot() const { return hotspot_; }
+    ImageCommands& Operations() { return operations_; }
+    const ImageCommands& Operations() const { return operations_; }
     ImageListCommands& Images() { return images_; }
     const ImageListCommands& Images() const { return images_; }
     InspectorController& Inspector() { return inspector_; }
@@ -130,6 +136,9 @@ class Editor final : private ICanvasHost,
         void ImageChanged() override;
         void Closed(bool kept) override;
         IAdjustmentsObserver* window = nullptr;
+        // The image as the adjustments found it, with any selection dropped into it: the
+        // undo snapshot that OK records.
+        std::unique_ptr<IconImage> before;
 
       private:
         Editor& editor_;
@@ -143,6 +152,8 @@ class Editor final : private ICanvasHost,
     void FinishEditing() override { canvas_.DropFloatingSelection(); }
     void HotspotMoved() override { session_.MarkModified(); }
     void ImagesEdited(int current, bool sameImage) override;
+    void RecordUndo(const IconImage& before) override;
+    void ImageEdited(bool sidesChanged) override;
     void ShowCurrentImage();
     void ResetUndosRepeats();
     // Undo or Repeat, when offered: drop a floating selection, then the step.
@@ -164,6 +175,7 @@ class Editor final : private ICanvasHost,
     DocumentSession session_;
     ImageListCommands images_{set_, settings_.Messages(), *this};
     AnimationCommands animation_{set_, settings_.Messages(), session_, events_};
+    ImageCommands operations_{*this, canvas_, tools_, services_.progress};
     AdjustmentsRelay adjustments_{*this};
 };
 

@@ -16,6 +16,8 @@ class FloatingPicture final : public IFloatingSelection {
 
     Point Origin() const override { return origin_; }
     const IconImage& Pixels() const override { return pixels_; }
+    // For the adjustments, which work on the floating pixels while their window is open.
+    IconImage& EditPixels() { return pixels_; }
     void MoveTo(Point origin) override { origin_ = origin; }
     // Opaque: every cell over the image takes the picture's colour (and alpha in a 32-bit
     // image), transparent ones included. Transparent: the picture's transparent cells

@@ -15,6 +15,25 @@ void CopyCorner(const IconImage& from, IconImage& to, int width, int height) {
     }
 }
 
+namespace {
+
+// A snapshot keeps the image's sides beside its pixels, so that an operation that changed
+// them (a quarter turn of a non-square image, trimming, resizing) is undone whole.
+void TakeSnapshot(const IconImage& current, IconImage& level) {
+    level.info.widthMinus1 = current.info.widthMinus1;
+    level.info.heightMinus1 = current.info.heightMinus1;
+    CopyCorner(current, level, ImageWidth(current), ImageHeight(current));
+}
+
+void PutSnapshotBack(const IconImage& level, IconImage& current) {
+    current.info.widthMinus1 = level.info.widthMinus1;
+    current.info.heightMinus1 = level.info.heightMinus1;
+    CopyCorner(level, current, ImageWidth(level), ImageHeight(level));
+    current.DropOriginalPng();
+}
+
+}  // namespace
+
 UndoHistory::UndoHistory() {
     undoPixels_.resize(kLevels);
     redoPixels_.resize(kLevels);
@@ -26,11 +45,11 @@ UndoHistory::UndoHistory() {
 // over the current image's width and height, and then level 0 receives the image. Rotating
 // the levels' stores gives the same snapshots without copying nineteen of them: the cells
 // outside the width by height corner differ, but no snapshot is ever read outside that
-// corner, and the stacks are reset whenever the size changes.
+// corner, which is the level's own (its sides are kept with it).
 void UndoHistory::AddUndo(const IconImage& current) {
     std::rotate(undoPixels_.rbegin(), undoPixels_.rbegin() + 1, undoPixels_.rend());
     std::rotate(undoIds_.rbegin(), undoIds_.rbegin() + 1, undoIds_.rend());
-    CopyCorner(current, undoPixels_[0], ImageWidth(current), ImageHeight(current));
+    TakeSnapshot(current, undoPixels_[0]);
     undoIds_[0] = stateId_;
     undoCount_ = std::min(undoCount_ + 1, kLevels - 1);
     stateId_ = nextId_++;
@@ -38,15 +57,12 @@ void UndoHistory::AddUndo(const IconImage& current) {
 
 bool UndoHistory::Undo(IconImage& current) {
     if (undoCount_ < 0) return false;
-    const int width = ImageWidth(current);
-    const int height = ImageHeight(current);
     std::rotate(redoPixels_.rbegin(), redoPixels_.rbegin() + 1, redoPixels_.rend());
     std::rotate(redoIds_.rbegin(), redoIds_.rbegin() + 1, redoIds_.rend());
-    CopyCorner(current, redoPixels_[0], width, height);
+    TakeSnapshot(current, redoPixels_[0]);
     redoIds_[0] = stateId_;
 
-    CopyCorner(undoPixels_[0], current, width, height);
-    current.DropOriginalPng();
+    PutSnapshotBack(undoPixels_[0], current);
     stateId_ = undoIds_[0];
     // One level up: level i receives level i + 1.
     std::rotate(undoPixels_.begin(), undoPixels_.begin() + 1, undoPixels_.end());
@@ -59,8 +75,7 @@ bool UndoHistory::Undo(IconImage& current) {
 bool UndoHistory::Repeat(IconImage& current) {
     if (redoCount_ < 0) return false;
     AddUndo(current);
-    CopyCorner(redoPixels_[0], current, ImageWidth(current), ImageHeight(current));
-    current.DropOriginalPng();
+    PutSnapshotBack(redoPixels_[0], current);
     stateId_ = redoIds_[0];
     std::rotate(redoPixels_.begin(), redoPixels_.begin() + 1, redoPixels_.end());
     std::rotate(redoIds_.begin(), redoIds_.begin() + 1, redoIds_.end());

@@ -1,9 +1,9 @@
 #pragma once
 // Undo and Repeat: two stacks of whole-image snapshots of the image being edited, UndoPixels
-// and RedoPixels, twenty levels each, level 0 the newest. A snapshot holds pixels only (the current
-// image's width by height cells of both planes), not the image's size, depth or place in the set,
-// so the owner must call ResetUndosRepeats whenever the current image or its size changes and
-// whenever a set is opened or made.
+// and RedoPixels, twenty levels each, level 0 the newest. A snapshot holds the current image's
+// width by height cells of both planes and those two sides (so an operation that changed them is
+// undone whole), not its depth or place in the set, so the owner must call ResetUndosRepeats
+// whenever the current image or its depth changes and whenever a set is opened or made.
 
 #include <cstdint>
 #include <vector>
@@ -22,7 +22,8 @@ class UndoHistory {
     // oldest snapshot falls off once it holds twenty), the image becomes level 0. The redo
     // stack is left as it is, on purpose: Repeat stays available after further drawing.
     void AddUndo(const IconImage& current);
-    // Steps back: the image goes onto the redo stack and undo level 0 comes back into it.
+    // Steps back: the image goes onto the redo stack and undo level 0 comes back into it,
+    // with the sides it had.
     // Returns false, changing nothing, when there is nothing to undo.
     bool Undo(IconImage& current);
     // Steps forward: the image goes onto the undo stack (as AddUndo) and redo level 0 comes

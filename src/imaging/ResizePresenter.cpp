@@ -1,6 +1,7 @@
 #include "imaging/ResizePresenter.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "imaging/Rounding.h"
 #include "services/core/ParseInteger.h"
@@ -35,24 +36,41 @@ void ResizePresenter::SetMode(Mode mode) {
         horizontal_ = std::clamp(RoundHalfEven(100 * newWidth, width_), kMinEntry, kMaxEntry);
         vertical_ = std::clamp(RoundHalfEven(100 * newHeight, height_), kMinEntry, kMaxEntry);
     }
+    // Rounding each side on its own could make kept proportions drift apart.
+    if (keep_) Assign(Entry::Horizontal, horizontal_, horizontal_, vertical_);
 }
 
-bool ResizePresenter::Accept(std::string_view text, int& entry) {
+std::optional<int> ResizePresenter::Parse(std::string_view text) {
     const auto value = ParseInteger<int>(text);
-    if (!value || *value < kMinEntry || *value > kMaxEntry) {
+    if (!value || *value < kMinEntry || *value > kMaxEntry) return std::nullopt;
+    return value;
+}
+
+void ResizePresenter::Assign(Entry entry, int value, int& horizontal, int& vertical) const {
+    const bool byHorizontal = entry == Entry::Horizontal;
+    (byHorizontal ? horizontal : vertical) = value;
+    if (!keep_) return;
+    int following = value;
+    if (mode_ == Mode::Pixels) {
+        following = byHorizontal ? RoundHalfEven(value * height_, width_)
+                                 : RoundHalfEven(value * width_, height_);
+    }
+    (byHorizontal ? vertical : horizontal) = std::clamp(following, kMinEntry, kMaxEntry);
+}
+
+bool ResizePresenter::Set(Entry entry, std::string_view text) {
+    const std::optional<int> value = Parse(text);
+    if (!value) {
         messages_.Show(texts::Integer500, MessageType::Exclamation);
         return false;
     }
-    entry = *value;
+    Assign(entry, *value, horizontal_, vertical_);
     return true;
 }
 
-bool ResizePresenter::SetHorizontal(std::string_view text) {
-    return Accept(text, horizontal_);
-}
-
-bool ResizePresenter::SetVertical(std::string_view text) {
-    return Accept(text, vertical_);
+void ResizePresenter::SetKeepProportions(bool keep) {
+    keep_ = keep;
+    Assign(Entry::Horizontal, horizontal_, horizontal_, vertical_);
 }
 
 int ResizePresenter::NewSide(int current, int entry) const {
@@ -66,6 +84,15 @@ int ResizePresenter::NewWidth() const {
 
 int ResizePresenter::NewHeight() const {
     return NewSide(height_, vertical_);
+}
+
+ResizePresenter::Typed ResizePresenter::WhileTyping(Entry entry, std::string_view text) const {
+    Typed typed{horizontal_, vertical_, {}};
+    if (const std::optional<int> value = Parse(text))
+        Assign(entry, *value, typed.horizontal, typed.vertical);
+    typed.newText =
+        SizeText(kNewLabel, NewSide(width_, typed.horizontal), NewSide(height_, typed.vertical));
+    return typed;
 }
 
 std::string ResizePresenter::CurrentText() const {

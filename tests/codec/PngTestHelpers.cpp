@@ -61,16 +61,6 @@ std::vector<std::uint8_t> RgbaOf(const c32bppDIB& image) {
     return out;
 }
 
-c32bppDIB DibFromRgba(int width, int height, const std::vector<std::uint8_t>& rgba) {
-    c32bppDIB dib;
-    dib.InitializeDIB(width, height);
-    for (int i = 0; i < width * height; ++i) {
-        const std::uint8_t* q = rgba.data() + 4 * i;
-        dib.SetPixel(i % width, i / width, {q[2], q[1], q[0], q[3]});
-    }
-    return dib;
-}
-
 std::optional<c32bppDIB> Decode(const std::vector<std::uint8_t>& png) {
     c32bppDIB dib;
     if (!DecodePngStream(png, dib, PictureLimits())) return std::nullopt;

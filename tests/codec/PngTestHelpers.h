@@ -30,9 +30,8 @@ class PngBuilder {
 
 std::vector<std::uint8_t> BE32(std::uint32_t value);
 
-// The DIB's pixels as R, G, B, A, top row first; and a DIB from such pixels.
+// The DIB's pixels as R, G, B, A, top row first.
 std::vector<std::uint8_t> RgbaOf(const c32bppDIB& image);
-c32bppDIB DibFromRgba(int width, int height, const std::vector<std::uint8_t>& rgba);
 
 // Decodes a PNG in memory; nullopt on failure.
 std::optional<c32bppDIB> Decode(const std::vector<std::uint8_t>& png);

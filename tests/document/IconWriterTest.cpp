@@ -4,13 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-#include <csignal>
-
 #include "document/io/AnimatedCursor.h"
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "services/core/CheckedBytes.h"
+#include "support/FileSizeLimit.h"
 #include "support/IcoBuilder.h"
 #include "support/TestImages.h"
 #include "support/TestSupport.h"
@@ -58,20 +56,10 @@ TEST(IconWriter, DirectoryAndHeaderFields) {
         const std::uint32_t bpp = static_cast<std::uint32_t>(set.Info(i).bitCount);
         const std::uint32_t bits = ((w * bpp + 31) / 32 * 4 + (w + 31) / 32 * 4) * rows;
         const std::uint32_t size = 40 + (bpp <= 8 ? (4u << bpp) : 0) + bits;
-        const std::vector<std::uint32_t> got = {e[0],
-                                                e[1],
-                                                e[2],
-                                                e[3],
-                                                LoadLE16(e + 4),
-                                                LoadLE16(e + 6),
-                                                LoadLE32(e + 8),
-                                                LoadLE32(e + 12),
-                                                LoadLE32(h),
-                                                LoadLE32(h + 4),
-                                                LoadLE32(h + 8),
-                                                LoadLE16(h + 12),
-                                                LoadLE16(h + 14),
-                                                LoadLE32(h + 20)};
+        std::vector<std::uint32_t> got(e, e + 4);
+        got.insert(got.end(), {LoadLE16(e + 4), LoadLE16(e + 6), LoadLE32(e + 8), LoadLE32(e + 12),
+                               LoadLE32(h), LoadLE32(h + 4), LoadLE32(h + 8), LoadLE16(h + 12),
+                               LoadLE16(h + 14), LoadLE32(h + 20)});
         const std::vector<std::uint32_t> want = {
             w % 256, rows % 256, bpp == 1 ? 2u : bpp == 4 ? 16u : 0u,
             0,       1,          bpp,
@@ -95,16 +83,9 @@ TEST(IconWriter, AFailedSaveLeavesTheOldFileByteForByte) {
     IconSet set;
     for (int i = 0; i < 4; ++i)
         set.AddIcon(255, 255, 32);
-    rlimit saved{};
-    getrlimit(RLIMIT_FSIZE, &saved);
-    auto previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = saved;
-    small.rlim_cur = 100 * 1024;  // the file needs about 1 MiB
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const bool ok = WriteIconFile(path.string(), set, f.context);
-    setrlimit(RLIMIT_FSIZE, &saved);
-    std::signal(SIGXFSZ, previous);
-    EXPECT_FALSE(ok);
+    // The file needs about 1 MiB.
+    EXPECT_FALSE(test::UnderFileSizeLimit(
+        100 * 1024, [&] { return WriteIconFile(path.string(), set, f.context); }));
     EXPECT_EQ(test::ReadFileBytes(path), old);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(f.dir.Path()), {}), 1);
 }

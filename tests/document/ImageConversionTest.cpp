@@ -24,29 +24,21 @@ TEST(ConvertPicture, EveryFormatIsTheFittedPictureAtItsDepth) {
     EXPECT_TRUE(set.properties.name.empty());
     EXPECT_EQ(f.progress.statuses, (std::vector<std::string>{"Importing Image...", ""}));
     EXPECT_EQ(f.progress.progress.back(), std::pair(5, 5));
-    struct Expect {
-        int side, bits;
-        PackedColor inside;
-    };
-    const Expect expected[] = {{256, 32, PackColor(255, 0, 0)},
-                               {48, 32, PackColor(255, 0, 0)},
-                               {32, 8, PackColor(255, 0, 0)},
-                               {16, 4, PackColor(255, 0, 0)},
-                               {16, 1, PackColor(0, 0, 0)}};
     for (int i = 0; i < 5; ++i) {
         const IconImage& image = set.Image(i);
-        const Expect& e = expected[i];
-        ASSERT_EQ(image.info.Width(), e.side);
-        ASSERT_EQ(image.info.Height(), e.side);
-        EXPECT_EQ(image.info.bitCount, e.bits);
-        EXPECT_EQ(image.info.png, i == 0 ? 1 : 0);
+        const int side = formats[i].Width(), bits = formats[i].bitCount;
+        const PackedColor inside = bits == 1 ? PackColor(0, 0, 0) : PackColor(255, 0, 0);
+        ASSERT_EQ(std::tuple(image.info.Width(), image.info.Height(), int{image.info.bitCount},
+                             int{image.info.png}),
+                  std::tuple(side, side, bits, i == 0 ? 1 : 0));
         // A 2:1 picture fills the middle half of the square; above and below it stay clear.
-        const int top = e.side / 4;
-        EXPECT_EQ(image.Color(e.side / 2, top - 1), TransparentColor) << e.side;
-        EXPECT_EQ(image.Color(e.side / 2, top), e.inside) << e.side;
-        EXPECT_EQ(image.Color(0, e.side - top - 1), e.inside) << e.side;
-        EXPECT_EQ(image.Color(e.side - 1, e.side - top), TransparentColor) << e.side;
-        EXPECT_EQ(image.Alpha(e.side / 2, top), e.bits == 32 ? 255 : 0);
+        const int top = side / 4;
+        EXPECT_EQ(
+            std::tuple(image.Color(side / 2, top - 1), image.Color(side / 2, top),
+                       image.Color(0, side - top - 1), image.Color(side - 1, side - top),
+                       image.Alpha(side / 2, top)),
+            std::tuple(TransparentColor, inside, inside, TransparentColor, bits == 32 ? 255 : 0))
+            << side;
     }
     EXPECT_FALSE(ConvertPicture(RgbaBuffer(), formats, set, f.progress));
     EXPECT_TRUE(set.Empty());

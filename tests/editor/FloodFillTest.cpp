@@ -19,10 +19,9 @@ constexpr PackedColor kGreen = PackColor(0, 255, 0);
 TEST(FloodFill, FillsTheWholeUniformImageButNothingBeyondIt) {
     IconImage image = Filled(20, 12, 32, kRed, 255);
     EXPECT_EQ(FloodFill(image, 5, 5, kBlue, 128), 20 * 12);
-    EXPECT_EQ(image.Color(19, 11), kBlue);
-    EXPECT_EQ(image.Alpha(19, 11), 128);
-    EXPECT_EQ(image.Color(20, 0), 0);  // store cells beyond the image stay untouched
-    EXPECT_EQ(image.Color(0, 12), 0);
+    EXPECT_EQ(std::pair(image.Color(19, 11), image.Alpha(19, 11)), std::pair(kBlue, 128));
+    // Store cells beyond the image stay untouched.
+    EXPECT_EQ(std::pair(image.Color(20, 0), image.Color(0, 12)), std::pair(0, 0));
     // Filling with the colour already there ends too.
     IconImage large = Filled(256, 256, 32, kRed, 255);
     EXPECT_EQ(FloodFill(large, 128, 128, kRed, 255), 256 * 256);
@@ -33,9 +32,8 @@ TEST(FloodFill, MatchesAlphaOnlyIn32BitImages) {
     for (int y = 0; y < 10; ++y)
         image.Alpha(5, y) = 254;  // a wall of the same colour, one step less opaque
     EXPECT_EQ(FloodFill(image, 0, 0, kBlue, 255), 50);
-    EXPECT_EQ(image.Color(4, 9), kBlue);
-    EXPECT_EQ(image.Color(5, 0), kRed);
-    EXPECT_EQ(image.Color(6, 0), kRed);
+    EXPECT_EQ(std::tuple(image.Color(4, 9), image.Color(5, 0), image.Color(6, 0)),
+              std::tuple(kBlue, kRed, kRed));
     // Plane 1 means nothing at 24 bits.
     IconImage flat = Filled(10, 10, 24, kRed, 255);
     flat.Alpha(3, 3) = 0;

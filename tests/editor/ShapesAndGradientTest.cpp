@@ -71,12 +71,11 @@ TEST(Gradient, BlendsChannelsAndAlphaFromForegroundToBackground) {
     IconImage image = test::MakeImage(5, 3, 32);
     PaintGradient(image, GradientDirection::Horizontal, PackColor(0, 100, 200), 0,
                   PackColor(200, 100, 0));
-    EXPECT_EQ(image.Color(0, 1), PackColor(0, 100, 200));
-    EXPECT_EQ(image.Color(4, 1), PackColor(200, 100, 0));
-    EXPECT_EQ(image.Color(2, 0), PackColor(100, 100, 100));
-    EXPECT_EQ(image.Alpha(0, 2), 0);
-    EXPECT_EQ(image.Alpha(4, 2), 255);
-    EXPECT_EQ(image.Alpha(2, 2), 128);  // 127.5 rounds to the even 128
+    EXPECT_EQ(std::tuple(image.Color(0, 1), image.Color(4, 1), image.Color(2, 0)),
+              std::tuple(PackColor(0, 100, 200), PackColor(200, 100, 0), PackColor(100, 100, 100)));
+    // 127.5 rounds to the even 128.
+    EXPECT_EQ(std::tuple(image.Alpha(0, 2), image.Alpha(4, 2), image.Alpha(2, 2)),
+              std::tuple(0, 255, 128));
 }
 
 TEST(Gradient, MapsLowDepthsToTheirPaletteAndSplitsBetweenMarkerEnds) {
@@ -90,8 +89,8 @@ TEST(Gradient, MapsLowDepthsToTheirPaletteAndSplitsBetweenMarkerEnds) {
     }
     IconImage halves = test::MakeImage(4, 4, 8);
     PaintGradient(halves, GradientDirection::Vertical, TransparentColor, 255, PackColor(1, 2, 3));
-    EXPECT_EQ(halves.Color(0, 1), TransparentColor);
-    EXPECT_EQ(halves.Color(0, 2), PackColor(1, 2, 3));
+    EXPECT_EQ(std::pair(halves.Color(0, 1), halves.Color(0, 2)),
+              std::pair(TransparentColor, PackColor(1, 2, 3)));
 }
 
 }  // namespace

@@ -70,10 +70,10 @@ TEST(ColorEffects, EachPixelChangesByItsRule) {
     // the luma (red's is 76); a colour within the tolerance of the key turns transparent.
     EXPECT_EQ(after([&](RgbaBuffer& b) { Greyscale(b, progress); }),
               (Pixels{{0, 0, 0, 255}, {128, 128, 128, 40}, {76, 76, 76, 255}}));
-    EXPECT_EQ(after([&](RgbaBuffer& b) { Colorize(b, PackColor(0, 100, 200), progress); })[0],
-              (Rgba{0, 0, 0, 255}));
-    EXPECT_EQ(after([&](RgbaBuffer& b) { Colorize(b, PackColor(0, 100, 200), progress); })[1],
-              (Rgba{0, 100, 200, 40}));
+    const Pixels tinted =
+        after([&](RgbaBuffer& b) { Colorize(b, PackColor(0, 100, 200), progress); });
+    EXPECT_EQ(Pixels(tinted.begin(), tinted.begin() + 2),
+              (Pixels{{0, 0, 0, 255}, {0, 100, 200, 40}}));
     EXPECT_EQ(after([](RgbaBuffer& b) { Invert(b); })[2], (Rgba{0, 255, 255, 255}));
     EXPECT_EQ(after([](RgbaBuffer& b) { Invert(b), Invert(b); }), after([](RgbaBuffer&) {}));
     EXPECT_EQ(after([](RgbaBuffer& b) { TwoTone(b, 100, PackColor(1, 1, 1), PackColor(9, 9, 9)); }),

@@ -155,9 +155,10 @@ TEST(CreatePalette256, CoarsensByTheStepThatTheCountCallsAndAlwaysEnds) {
         PaletteBuilder builder(
             ColumnByColumn(side, side, GridColors(c.count, c.first, c.step, c.perChannel)));
         builder.CountPaletteColors();
-        EXPECT_EQ(builder.DistinctColors(), c.count - 1) << c.count;
-        EXPECT_EQ(builder.QuantizationStep(), c.quantization) << c.count;
-        EXPECT_EQ(builder.PaletteLast(), 253) << c.count;
+        EXPECT_EQ(
+            std::tuple(builder.DistinctColors(), builder.QuantizationStep(), builder.PaletteLast()),
+            std::tuple(c.count - 1, c.quantization, 253))
+            << c.count;
     }
 }
 

@@ -70,10 +70,9 @@ TEST(Resampler, InvertingPixelsFollowTheNearestSourcePixel) {
     source.At(3, 0) = {255, 255, 255, 0};
     source.SetInverse(3, 0, true);
     const RgbaBuffer out = Resample(source, 8, 8);
-    EXPECT_TRUE(out.IsInverse(7, 0));
-    EXPECT_TRUE(out.IsInverse(6, 1));
-    EXPECT_FALSE(out.IsInverse(5, 0));
-    EXPECT_FALSE(out.IsInverse(0, 7));
+    EXPECT_EQ(std::tuple(out.IsInverse(7, 0), out.IsInverse(6, 1), out.IsInverse(5, 0),
+                         out.IsInverse(0, 7)),
+              std::tuple(true, true, false, false));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace {
 TEST(ResizePresenter, PercentAndPixelsGiveTheNewSides) {
     test::MessageFixture messages;
     ResizePresenter resize(32, 48, messages.service);
+    resize.SetKeepProportions(false);
     EXPECT_EQ(resize.CurrentText(), "Current Size: 32 x 48");
     EXPECT_EQ(resize.NewText(), "New Size: 32 x 48");
     ASSERT_TRUE(resize.SetHorizontal("50"));
@@ -43,6 +44,62 @@ TEST(ResizePresenter, EntriesOutsideOneTo500AreRefusedWithTheMessage) {
     EXPECT_EQ(messages.presenter.Keys(), std::vector<std::string>(16, "Integer500"));
     EXPECT_TRUE(resize.SetVertical("500"));
     EXPECT_EQ(messages.presenter.shown.size(), 16u);
+}
+
+TEST(ResizePresenter, KeptProportionsMakeOneEntryFollowTheOther) {
+    using Entry = ResizePresenter::Entry;
+    test::MessageFixture messages;
+    struct Case {
+        int width, height;
+        ResizePresenter::Mode mode;
+        Entry entry;
+        const char* text;
+        int horizontal, vertical;
+        const char* newText;
+    };
+    const Case cases[] = {
+        {256, 48, ResizePresenter::Mode::Pixels, Entry::Horizontal, "100", 100, 19,
+         "New Size: 100 x 19"},  // 18.75 rounds up
+        {256, 48, ResizePresenter::Mode::Pixels, Entry::Vertical, "24", 128, 24,
+         "New Size: 128 x 24"},
+        {256, 48, ResizePresenter::Mode::Percent, Entry::Vertical, "25", 25, 25,
+         "New Size: 64 x 12"},
+        {16, 256, ResizePresenter::Mode::Pixels, Entry::Horizontal, "100", 100, 500,
+         "New Size: 100 x 256"},  // 1600 held to 500
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.text);
+        ResizePresenter resize(c.width, c.height, messages.service);
+        ASSERT_TRUE(resize.KeepProportions());
+        resize.SetMode(c.mode);
+        // While typing nothing is taken; a bad text shows the held values.
+        const ResizePresenter::Typed typed = resize.WhileTyping(c.entry, c.text);
+        EXPECT_EQ(typed.horizontal, c.horizontal);
+        EXPECT_EQ(typed.vertical, c.vertical);
+        EXPECT_EQ(typed.newText, c.newText);
+        EXPECT_EQ(resize.WhileTyping(c.entry, "501").newText, resize.NewText());
+        EXPECT_NE(resize.NewText(), c.newText);
+
+        ASSERT_TRUE(resize.Set(c.entry, c.text));
+        EXPECT_EQ(resize.Horizontal(), c.horizontal);
+        EXPECT_EQ(resize.Vertical(), c.vertical);
+        EXPECT_EQ(resize.NewText(), c.newText);
+    }
+    EXPECT_TRUE(messages.presenter.shown.empty());
+
+    // Entries set apart come together when proportions are turned on, and stay equal
+    // percentages across a change of unit.
+    ResizePresenter resize(256, 48, messages.service);
+    resize.SetKeepProportions(false);
+    ASSERT_TRUE(resize.SetHorizontal("40"));
+    ASSERT_TRUE(resize.SetVertical("90"));
+    EXPECT_EQ(resize.WhileTyping(Entry::Horizontal, "50").vertical, 90);
+    resize.SetKeepProportions(true);
+    EXPECT_EQ(resize.Vertical(), 40);
+    resize.SetMode(ResizePresenter::Mode::Pixels);
+    EXPECT_EQ(resize.NewText(), "New Size: 102 x 19");  // 102.4 x 19.2
+    resize.SetMode(ResizePresenter::Mode::Percent);
+    EXPECT_EQ(resize.Horizontal(), resize.Vertical());
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-#include <csignal>
-
 #include "services/core/AtomicFile.h"
+#include "support/FileSizeLimit.h"
 #include "support/TestSupport.h"
 
 namespace iw {
@@ -53,17 +51,9 @@ TEST(AtomicFile, FileSizeLimitPartWayFailsAndLeavesTheOldFile) {
     test::TempDir dir;
     auto target = dir / "big.ico";
     test::WriteFileBytes(target, std::vector<std::uint8_t>(100, 9));
-    rlimit saved{};
-    getrlimit(RLIMIT_FSIZE, &saved);
-    auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = saved;
-    small.rlim_cur = 64 * 1024;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     const std::string big(1 << 20, 'z');
-    const bool ok = WriteFileAtomically(target, AsBytes(big));
-    setrlimit(RLIMIT_FSIZE, &saved);
-    std::signal(SIGXFSZ, previousHandler);
-    EXPECT_FALSE(ok);
+    EXPECT_FALSE(test::UnderFileSizeLimit(
+        64 * 1024, [&] { return WriteFileAtomically(target, AsBytes(big)); }));
     EXPECT_EQ(test::ReadFileBytes(target), std::vector<std::uint8_t>(100, 9));
     EXPECT_EQ(FilesIn(dir.Path()), 1u);
 }

@@ -104,16 +104,6 @@ struct TemplateEditing : ::testing::Test, ITemplateEditorObserver {
     int templateEvents = 0;
 };
 
-TEST_F(TemplateEditing, LockedTemplatesCannotBeEdited) {
-    IconTemplate locked;
-    locked.name = "Shipped";
-    locked.lock = "LOCKED";
-    EXPECT_FALSE(editor.OpenTemplates(locked));
-    EXPECT_EQ(messages.presenter.shown.size(), 1u);
-    EXPECT_EQ(editor.Name(), "NEW");
-    EXPECT_EQ(rowEvents + templateEvents, 0);
-}
-
 TEST_F(TemplateEditing, RowsAddRemoveAndMoveWithTheSelection) {
     EXPECT_TRUE(editor.AddItem(48, 48, 32, false) && editor.AddItem(16, 16, 4, false) &&
                 editor.AddItem(256, 256, 32, true));
@@ -135,9 +125,6 @@ TEST_F(TemplateEditing, RowsAddRemoveAndMoveWithTheSelection) {
     editor.SelectRow(7);
     EXPECT_EQ(editor.SelectedRow(), -1);
     EXPECT_EQ(rowEvents, 10);  // every change but the refused ones
-    while (editor.Entries().size() < 65)
-        ASSERT_TRUE(editor.AddItem(16, 16, 32, false));
-    EXPECT_FALSE(editor.AddItem(16, 16, 32, false));
 }
 
 TEST_F(TemplateEditing, SavesUnderTheGivenNameAndLoadsBack) {
@@ -194,13 +181,11 @@ TEST_F(TemplateEditing, TheAddButtonTakesOnlyWholeSidesFrom1To256) {
         messagesBefore = messages.presenter.shown.size();
     }
     ASSERT_EQ(editor.Entries().size(), 3u);
-    EXPECT_EQ(editor.Rows()[0].size, "16 x 24");
-    EXPECT_EQ(editor.Rows()[0].depth, "Monochrome");
-    EXPECT_EQ(editor.Rows()[1].compressed, "Yes");
-    EXPECT_EQ(editor.Rows()[1].depth, "Alpha");
-    EXPECT_EQ(editor.Rows()[2].depth, "256 Colors");
+    EXPECT_EQ(std::tie(editor.Rows()[0].size, editor.Rows()[1].compressed, editor.Rows()[2].depth),
+              std::tuple("16 x 24", "Yes", "256 Colors"));
+    EXPECT_EQ(std::tuple(editor.Entries()[0].bits, editor.Entries()[1].bits), std::tuple(1, 32));
     while (editor.Entries().size() < 65)
-        editor.AddItem(16, 16, 32, false);
+        ASSERT_TRUE(editor.AddItem(16, 16, 32, false));
     EXPECT_FALSE(editor.AddItemText("16", "16", 4, 0));
     EXPECT_EQ(messages.presenter.shown.back().text, "You cannot add anymore icons.");
 }
@@ -211,6 +196,9 @@ TEST_F(TemplateEditing, AViewedShippedTemplateRefusesEveryChange) {
     shipped.path = (user / "Shipped.ini").string();
     shipped.lock = "LOCKED";
     shipped.entries.resize(2);
+    EXPECT_FALSE(editor.OpenTemplates(shipped));  // opened for editing: refused, untouched
+    EXPECT_EQ(editor.Name(), "NEW");
+    EXPECT_EQ(rowEvents + templateEvents, 0);
     editor.ViewTemplate(shipped);
     EXPECT_TRUE(editor.ReadOnly());
     EXPECT_EQ(editor.Rows().size(), 2u);
@@ -220,7 +208,7 @@ TEST_F(TemplateEditing, AViewedShippedTemplateRefusesEveryChange) {
     EXPECT_FALSE(editor.MoveUp());
     EXPECT_FALSE(editor.Save("Shipped"));
     EXPECT_FALSE(editor.SaveTemplatesAs("Copy"));
-    EXPECT_EQ(messages.presenter.shown.size(), 5u);
+    EXPECT_EQ(messages.presenter.shown.size(), 6u);
     for (const auto& shown : messages.presenter.shown)
         EXPECT_EQ(shown.text, "This template cannot be edited.");
     EXPECT_EQ(editor.Entries(), shipped.entries);

@@ -1,16 +1,12 @@
 // The XML stores: paths, defaults, entities, booleans, the file layout and broken files.
 #include <gtest/gtest.h>
 
+#include "DesktopTestSupport.h"
 #include "services/core/XmlStore.h"
 #include "support/TestSupport.h"
 
 namespace iw {
 namespace {
-
-std::string FileText(const std::filesystem::path& file) {
-    const auto bytes = test::ReadFileBytes(file);
-    return {bytes.begin(), bytes.end()};
-}
 
 TEST(XmlStore, PathsDefaultsAndSiblings) {
     XmlStore store;
@@ -65,14 +61,14 @@ TEST(XmlStoreFile, SavesCrLfLayoutAndOnlyWithAPath) {
     EXPECT_EQ(store.ToString(), "<XML></XML>");
     store.SetValue("Settings\\Pixelsize", "32");
     ASSERT_TRUE(store.Save());
-    EXPECT_EQ(FileText(dir / "settings.xml"),
+    EXPECT_EQ(test::ReadText(dir / "settings.xml"),
               "<XML>\r\n<Settings>\r\n<Pixelsize>32</Pixelsize>\r\n</Settings>\r\n</XML>");
     XmlStore reread;
     ASSERT_TRUE(reread.Load(dir / "settings.xml"));
     EXPECT_EQ(reread.GetValue("Settings\\Pixelsize", ""), "32");
     store.Clear();
     ASSERT_TRUE(store.Save());
-    EXPECT_EQ(FileText(dir / "settings.xml"), "<XML></XML>");
+    EXPECT_EQ(test::ReadText(dir / "settings.xml"), "<XML></XML>");
 }
 
 TEST(XmlStoreFile, MalformedFileReadsEmptyAndIsRewrittenOnSave) {

@@ -1,6 +1,5 @@
 // The small translations between Qt and the core: the command line, the file dialogs'
 // filters, and the message window's buttons and answers.
-#include <QCheckBox>
 #include <QDir>
 #include <QPushButton>
 
@@ -35,8 +34,9 @@ TEST(FileFilters, TheProgramsFilterTextBecomesQtsNameFilters) {
     EXPECT_TRUE(ui::QtNameFilters("No patterns").isEmpty());
 }
 
-// Each button of each kind of box gives its own answer.
-TEST(MessageWindow, EveryButtonGivesItsAnswer) {
+// Each button of each kind of box gives its own answer; closed without a button, a box
+// gives its safe answer.
+TEST(MessageWindow, EveryButtonGivesItsAnswerAndClosingTheSafeOne) {
     const std::vector<std::tuple<MessageButtons, const char*, MessageAnswer>> cases = {
         {MessageButtons::Ok, "cmdOK", MessageAnswer::Ok},
         {MessageButtons::OkCancel, "cmdOK", MessageAnswer::Ok},
@@ -55,7 +55,6 @@ TEST(MessageWindow, EveryButtonGivesItsAnswer) {
         request.buttons = buttons;
         ui::MessageWindow window(request);
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Title"));
-        EXPECT_EQ(window.findChild<QCheckBox*>(), nullptr);  // not suppressible
         const int count =
             buttons == MessageButtons::Ok ? 1 : (buttons == MessageButtons::YesNoCancel ? 3 : 2);
         EXPECT_EQ(window.findChildren<QPushButton*>().size(), count);
@@ -64,6 +63,12 @@ TEST(MessageWindow, EveryButtonGivesItsAnswer) {
         QTest::mouseClick(push, Qt::LeftButton);
         EXPECT_EQ(window.Result().answer, answer);
         EXPECT_FALSE(window.Result().suppressInFuture);
+        ui::MessageWindow closed(request);
+        closed.reject();
+        EXPECT_EQ(closed.Result().answer, buttons == MessageButtons::Ok ? MessageAnswer::Ok
+                                          : buttons == MessageButtons::YesNo
+                                              ? MessageAnswer::No
+                                              : MessageAnswer::Cancel);
     }
 }
 

