@@ -16,7 +16,7 @@
 #include "ui/UiText.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FramePainting.h"
-#include "ui/animation/OkCancelButtons.h"
+#include "ui/image/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -125,7 +125,7 @@ PropertiesDialog::PropertiesDialog(Editor& editor, QWidget* parent)
     ratesLayout->addWidget(hint);
     ratesLayout->addWidget(frames_, 1);
 
-    QDialogButtonBox* buttons = OkCancelButtons(*this, [this] { Ok(); });
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(names);
@@ -182,7 +182,7 @@ void PropertiesDialog::ShowRates(const QLineEdit* typing) {
     }
 }
 
-void PropertiesDialog::Ok() {
+void PropertiesDialog::accept() {
     const std::optional<AnimationPropertiesValues> values = properties_.Ok();
     if (!values) {
         // The core has said why; the cursor goes where the rate is wrong.
@@ -194,7 +194,7 @@ void PropertiesDialog::Ok() {
         return;
     }
     editor_.Animation().ApplyProperties(*values);
-    accept();
+    QDialog::accept();
 }
 
 }  // namespace iw::ui

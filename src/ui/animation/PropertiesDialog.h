@@ -24,6 +24,9 @@ class PropertiesDialog final : public QDialog {
   public:
     PropertiesDialog(Editor& editor, QWidget* parent = nullptr);
 
+    // OK: stores what the core gives and closes, or stays after the core's message.
+    void accept() override;
+
   private:
     struct FrameRow {
         QLineEdit* rate = nullptr;
@@ -33,7 +36,6 @@ class PropertiesDialog final : public QDialog {
     QWidget* MakeFrameRows(const IconSet& set);
     // Shows the core's rate texts in every box but the one being typed in.
     void ShowRates(const QLineEdit* typing = nullptr);
-    void Ok();
 
     Editor& editor_;
     AnimationProperties properties_;

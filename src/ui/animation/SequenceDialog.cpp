@@ -15,7 +15,7 @@
 #include "ui/adapters/HelpLocation.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FrameStrip.h"
-#include "ui/animation/OkCancelButtons.h"
+#include "ui/image/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -73,7 +73,7 @@ SequenceDialog::SequenceDialog(Editor& editor, QWidget* parent)
     connect(useSequence_, &QRadioButton::toggled, this,
             [this](bool on) { sequence_.SetUseSequence(on); });
 
-    QDialogButtonBox* buttons = OkCancelButtons(*this, [this] { Ok(); });
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
     QPushButton* help = buttons->addButton(Tr(at::Help), QDialogButtonBox::HelpRole);
     help->setObjectName(QStr(at::Help.key));
     // Without the user guide beside the program there is nothing to open.
@@ -163,11 +163,11 @@ void SequenceDialog::ShowSteps() {
     film_->SetFrames(sequence_.Steps());
 }
 
-void SequenceDialog::Ok() {
+void SequenceDialog::accept() {
     const std::optional<SequenceChoice> choice = sequence_.Ok();
     if (!choice) return;  // the core has said why; the window stays
     editor_.Animation().ApplySequence(*choice);
-    accept();
+    QDialog::accept();
 }
 
 }  // namespace iw::ui

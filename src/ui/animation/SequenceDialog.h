@@ -25,6 +25,9 @@ class SequenceDialog final : public QDialog {
     FrameStrip* Frames() const { return frames_; }
     FrameStrip* Film() const { return film_; }
 
+    // OK: stores what the core gives and closes, or stays after the core's message.
+    void accept() override;
+
   private:
     // Where the film strip would take a drop at this global point (-1: not over it).
     int FilmGapAt(QPoint global) const;
@@ -32,7 +35,6 @@ class SequenceDialog final : public QDialog {
     void DroppedFrame(QPoint global);
     void DroppedStep(QPoint global);
     void ShowSteps();
-    void Ok();
 
     Editor& editor_;
     SequenceEditor sequence_;
