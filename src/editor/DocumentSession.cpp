@@ -104,6 +104,7 @@ void DocumentSession::StartFreshSet(FileMode mode, const TemplateEntry& format) 
     set_.mode = mode;
     fileName_.clear();
     programPath_.clear();
+    groupOffer_ = false;
 }
 
 void DocumentSession::Replaced(const std::vector<TemplateEntry>* formats) {
@@ -172,8 +173,9 @@ bool DocumentSession::OpenDocument(const std::string& path) {
     return OpenFile(path, std::nullopt);
 }
 
-bool DocumentSession::OpenProgramGroup(const std::string& path, const GroupChoice& choice) {
-    return OpenFile(path, choice);
+bool DocumentSession::OpenProgramGroup(const std::string& path, const GroupChoice& choice,
+                                       bool confirmed) {
+    return OpenFile(path, choice, confirmed);
 }
 
 bool DocumentSession::ConfirmProgram(const std::string& path) {
@@ -182,13 +184,15 @@ bool DocumentSession::ConfirmProgram(const std::string& path) {
                                      MessageButtons::YesNo) == MessageAnswer::Yes;
 }
 
-bool DocumentSession::OpenFile(const std::string& path, const std::optional<GroupChoice>& choice) {
+bool DocumentSession::OpenFile(const std::string& path, const std::optional<GroupChoice>& choice,
+                               bool confirmed) {
     if (!DocumentExists(path)) {
         settings_.Messages().Show(texts::DoesNotExist, MessageType::Exclamation);
         return false;
     }
     // Picking another group of the program the set came from does not ask again.
-    const bool pickingGroup = choice && !programPath_.empty() && SamePath(programPath_, path);
+    const bool pickingGroup =
+        choice && (confirmed || (!programPath_.empty() && SamePath(programPath_, path)));
     if ((!pickingGroup && !ConfirmProgram(path)) || !Ask()) return false;
     const bool program = IsProgramFile(path);
     set_.Clear();
@@ -206,6 +210,7 @@ bool DocumentSession::OpenFile(const std::string& path, const std::optional<Grou
     // A program is never written into: the set is saved as an icon file elsewhere.
     fileName_ = program ? std::string() : path;
     programPath_ = program ? path : std::string();
+    groupOffer_ = program && !choice;
     settings_.AddRecentFile(path);
     Replaced();
     ShowAnimationNotices(set_, settings_.Messages());
@@ -251,6 +256,7 @@ void DocumentSession::EndEditRequest() {
     if (!request_) return;
     request_->WriteAnswer();
     request_.reset();
+    services_.view.ShowEditRequest(std::string());
     events_.Notify(&IEditorObserver::EditRequestChanged);
 }
 

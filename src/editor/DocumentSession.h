@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "document/model/IconSet.h"
@@ -64,8 +65,13 @@ class DocumentSession {
     //
     // The group picker: after opening a program, ListProgramGroups / ProgramFile list its
     // groups; OpenProgramGroup opens the one chosen (in the language chosen), asking the
-    // question only when the set does not already come from that program.
-    bool OpenProgramGroup(const std::string& path, const GroupChoice& choice);
+    // question only when the set does not already come from that program, or never when
+    // `confirmed` (another window opened from the picker, whose question was answered).
+    bool OpenProgramGroup(const std::string& path, const GroupChoice& choice,
+                          bool confirmed = false);
+    // True once after a program was opened whole (its first group, not a picked one): the
+    // window then offers the program's other groups.
+    bool TakeGroupOffer() { return std::exchange(groupOffer_, false); }
     // The recent-files menu items 1 to 4.
     bool OpenRecent(int number);
     // Another program asks for an icon to be edited (docs/edit-requests.md): the request
@@ -122,7 +128,8 @@ class DocumentSession {
     // Takes the request's icon file as the document.
     bool TakeRequestedFile(const std::string& target);
     // Asks, opens and takes the file (`choice` set: a program's group).
-    bool OpenFile(const std::string& path, const std::optional<GroupChoice>& choice);
+    bool OpenFile(const std::string& path, const std::optional<GroupChoice>& choice,
+                  bool confirmed = false);
     // The "OpenEXE" question for a program file; true to go on (at once for other files).
     bool ConfirmProgram(const std::string& path);
     // The name Save As offers: the file's, or the program's with the mode's extension.
@@ -144,6 +151,7 @@ class DocumentSession {
     std::optional<EditRequestFile> request_;
     MessageAnswer lastAnswer_ = MessageAnswer::No;
     bool savedStateKnown_ = true;
+    bool groupOffer_ = false;
     std::uint64_t savedStateId_ = 0;
 };
 

@@ -62,6 +62,7 @@ TEST_F(EditRequest, SaveWritesTheRequestedIconAndTheEndOfTheRequestAnswers) {
     ASSERT_TRUE(editor.Document().SaveAs(cursor));
     ASSERT_TRUE(editor.Document().NewDocument());
     EXPECT_EQ(editor.Document().EditRequest(), "");
+    EXPECT_EQ(f.view.editRequestText, "");  // the banner goes with the request
     EXPECT_EQ(Answer(third), "Saved " + cursor + " Paint & Co");
 }
 

@@ -3,6 +3,7 @@
 #include "document/io/IconFileReader.h"
 #include "document/model/IconSet.h"
 #include "platform/FileAttributes.h"
+#include "services/core/QuietContext.h"
 #include "services/desktop/DesktopTexts.h"
 #include "services/desktop/IniText.h"
 #include "services/desktop/TextCase.h"
@@ -22,11 +23,6 @@ constexpr std::string_view kDirectoryFile = ".directory";
 constexpr std::string_view kCustomIcon = "metadata::custom-icon";
 // An icon file is read whole; the reader refuses more than this anyway.
 constexpr std::size_t kMaxIconBytes = std::size_t{512} << 20;
-
-class SilentPresenter final : public IMessagePresenter {
-  public:
-    MessageBoxResult Present(const MessageBoxRequest&) override { return {}; }
-};
 
 bool Exists(const std::filesystem::path& file) {
     std::error_code ec;
@@ -66,14 +62,9 @@ std::string PathText(const std::filesystem::path& path) {
 bool IsReadableIcon(const std::filesystem::path& file) {
     std::error_code ec;
     if (!std::filesystem::is_regular_file(file, ec)) return false;
-    XmlStore store;
-    SilentPresenter presenter;
-    MessageService messages(store, presenter);
-    NullProgress progress;
-    NullLog log;
-    CoreContext context{messages, progress, log};
+    QuietContext quiet;
     IconSet set;
-    return ReadIconFile(PathText(file), set, context) && set.Count() > 0;
+    return ReadIconFile(PathText(file), set, quiet.Context()) && set.Count() > 0;
 }
 
 FolderIcons::FolderIcons(platform::DesktopShell shell, ProgramRunner run)

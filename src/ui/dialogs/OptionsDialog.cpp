@@ -18,6 +18,7 @@
 #include "ui/UiText.h"
 #include "ui/dialogs/DialogParts.h"
 #include "ui/dialogs/EditTemplateDialog.h"
+#include "ui/image/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -79,16 +80,7 @@ OptionsDialog::OptionsDialog(Editor& editor, IMainWindowView& view, QWidget* par
     tabs->addTab(MakeGeneralTab(), Text("tabGeneral"));
     tabs->addTab(MakeTemplatesTab(), Text("tabTemplates"));
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok =
-        buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs, 1);

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "ui/UiText.h"
+#include "ui/dialogs/AttributesDialog.h"
 
 namespace iw::ui {
 namespace {
@@ -34,6 +35,8 @@ StartupDialog::StartupDialog(Editor& editor, std::function<bool()> openFile, QWi
     auto* tiles = new QHBoxLayout;
     tiles->addWidget(Tile("cmdNewIcon", "new", Text("cmdNewIcon", "New Icon"),
                           [&document] { return document.NewDocument(); }));
+    tiles->addWidget(Tile("cmdNewSize", "new-size", Text("cmdNewSize", "New Icon of\nAny Size..."),
+                          [this] { return NewIconOfAnySize(); }));
     tiles->addWidget(Tile("cmdNewCursor", "new-cursor", Text("cmdNewCursor", "New Cursor"),
                           [&document] { return document.NewCursor(); }));
     tiles->addWidget(Tile("cmdNewANI", "new-ani", Text("cmdNewANI", "New Animated\nCursor"),
@@ -125,6 +128,13 @@ QToolButton* StartupDialog::Tile(const char* name, std::string_view icon, const 
 
 void StartupDialog::Run(const std::function<bool()>& command) {
     if (command()) accept();
+}
+
+bool StartupDialog::NewIconOfAnySize() {
+    AttributesDialog attributes(editor_.Images(), AttributesDialog::Purpose::NewIcon,
+                                ImageAttributes{}, this);
+    return attributes.exec() == QDialog::Accepted &&
+           editor_.Document().NewIcon(attributes.Chosen());
 }
 
 void StartupDialog::CreateFromTemplate() {

@@ -1,7 +1,8 @@
 #pragma once
 // The start-up dialog (frmStartup), shown when start-up made nothing and no file was named:
-// tiles for a new icon, cursor or animated cursor and for opening a file, the templates,
-// the recent files, and the start-up choice (written to "Settings\Startup" as it closes).
+// tiles for a new icon (32 x 32, or of any size and depth), cursor or animated cursor and for
+// opening a file, the templates, the recent files, and the start-up choice (written to
+// "Settings\Startup" as it closes).
 
 #include <QDialog>
 #include <functional>
@@ -33,6 +34,8 @@ class StartupDialog final : public QDialog {
                        const QString& text, void (StartupDialog::*command)());
     // Runs a tile's command; the dialog closes when it made or opened a set.
     void Run(const std::function<bool()>& command);
+    // frmAttributes for the sides, depth and storage, then the new icon.
+    bool NewIconOfAnySize();
     void CreateFromTemplate();
     void OpenRecent();
 

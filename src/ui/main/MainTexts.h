@@ -62,6 +62,8 @@ inline constexpr TextId Alpha = T("lblAlpha", "A");
 inline constexpr TextId ChooseFore = T("dlgForeColor", "Foreground Colour");
 inline constexpr TextId ChooseBack = T("dlgBackColor", "Background Colour");
 inline constexpr TextId ZoomText = T("lblZoom", "Zoom %d:1");
+inline constexpr TextId EditRequestHint =
+    T("lblEditRequestHint", "When you are done, save the icon and close Iconwright to return.");
 inline constexpr TextId DroppedSeveral =
     T("DroppedSeveral", "Several files were dropped; the first one was opened.");
 

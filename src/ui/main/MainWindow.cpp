@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -93,6 +94,14 @@ MainWindow::~MainWindow() {
     delete takeCentralWidget();
 }
 
+MainWindowOptions MainWindow::OptionsForAnotherWindow() const {
+    MainWindowOptions options = options_;
+    if (ownPresenter_) options.presenter = nullptr;
+    if (ownFiles_) options.files = nullptr;
+    options.splash = false;
+    return options;
+}
+
 void MainWindow::BuildLayout() {
     Editor& editor = *editor_;
     actions_ = new MainActions(editor, *this);
@@ -112,18 +121,33 @@ void MainWindow::BuildLayout() {
     // Middle: the edit-request banner over the canvas.
     canvas_ = new CanvasWidget(editor, *picture_);
     area_ = new CanvasArea(editor, canvas_);
-    banner_ = new QLabel(this);
+    // The request's program in bold, how to return to it beneath.
+    auto* bannerBox = new QFrame(this);
+    bannerBox->setObjectName(QStringLiteral("fraEditRequest"));
+    bannerBox->setStyleSheet(
+        QStringLiteral("#fraEditRequest { background: #fff4cc; border-bottom: 1px solid #e0c860; }"
+                       "#fraEditRequest QLabel { color: #3b3000; }"));
+    banner_ = new QLabel(bannerBox);
     banner_->setObjectName(QStringLiteral("lblEditRequest"));
     banner_->setWordWrap(true);
-    banner_->setMargin(6);
-    banner_->setStyleSheet(QStringLiteral(
-        "QLabel { background: #fff4cc; color: #3b3000; border-bottom: 1px solid #e0c860; }"));
-    banner_->hide();
+    banner_->setTextFormat(Qt::PlainText);  // a program name is not markup
+    QFont bold = banner_->font();
+    bold.setBold(true);
+    banner_->setFont(bold);
+    auto* hint = new QLabel(Tr(mt::EditRequestHint), bannerBox);
+    hint->setObjectName(QStr(mt::EditRequestHint.key));
+    hint->setWordWrap(true);
+    auto* bannerLayout = new QVBoxLayout(bannerBox);
+    bannerLayout->setContentsMargins(8, 6, 8, 6);
+    bannerLayout->setSpacing(2);
+    bannerLayout->addWidget(banner_);
+    bannerLayout->addWidget(hint);
+    bannerBox->hide();
     auto* middle = new QWidget(this);
     auto* middleLayout = new QVBoxLayout(middle);
     middleLayout->setContentsMargins(0, 0, 0, 0);
     middleLayout->setSpacing(0);
-    middleLayout->addWidget(banner_);
+    middleLayout->addWidget(bannerBox);
     middleLayout->addWidget(area_, 1);
 
     // Right: the preview, the images and the inspector.
@@ -266,7 +290,7 @@ void MainWindow::ShowLogList() {
 
 void MainWindow::ShowEditRequest(const std::string& text) {
     banner_->setText(QStr(text));
-    banner_->setVisible(!text.empty());
+    banner_->parentWidget()->setVisible(!text.empty());
 }
 
 std::optional<std::string> MainWindow::ChooseSavePath(FileMode mode,

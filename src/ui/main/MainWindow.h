@@ -57,6 +57,10 @@ class MainWindow final : public QMainWindow, public IMainWindowView, public IEdi
     // The start-up dialog, for a start-up that made nothing and was given no file.
     void ShowStartupDialog();
 
+    // What another main window of the program is made with: the same folders, message
+    // presenter and file chooser when they were lent, else its own; no splash.
+    MainWindowOptions OptionsForAnotherWindow() const;
+
     Editor& GetEditor() { return *editor_; }
     CanvasWidget* Canvas() const { return canvas_; }
     MainActions* Actions() const { return actions_; }

@@ -3,6 +3,7 @@
 #include "ui/animation/AnimationMenu.h"
 #include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
+#include "ui/main/ListWindows.h"
 #include "ui/main/OptionsMenu.h"
 
 namespace iw::ui {
@@ -12,6 +13,7 @@ void InstallWindowFeatures(MainWindow& window) {
     InstallOptionsMenu(window);
     InstallEditFeatures(window);
     InstallImageMenu(window);
+    InstallListWindows(window);
     InstallAnimationMenu(window);
 }
 

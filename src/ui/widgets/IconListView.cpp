@@ -56,25 +56,28 @@ void IconListModel::HighlightsChanged() {
     if (rows_ > 0) emit dataChanged(index(0), index(rows_ - 1), {HighlightRole});
 }
 
+QImage IconThumbnail(const IconImage& image, int side) {
+    const PixelPicture picture = MakePixelPicture(image);
+    // Large images shrink smoothly into the box once; small ones are drawn as they are.
+    const qreal ratio = qApp->devicePixelRatio();
+    const QSize box = (QSizeF(side, side) * ratio).toSize();
+    QSize size = picture.Size();
+    if (size.width() * ratio > box.width() || size.height() * ratio > box.height()) {
+        size = size.scaled(box, Qt::KeepAspectRatio);
+    } else {
+        size = (QSizeF(size) * ratio).toSize();
+    }
+    QImage thumbnail(size, QImage::Format_ARGB32_Premultiplied);
+    thumbnail.fill(Qt::transparent);
+    thumbnail.setDevicePixelRatio(ratio);
+    QPainter painter(&thumbnail);
+    DrawPictureOver(painter, QRect(QPoint(0, 0), (QSizeF(size) / ratio).toSize()), picture);
+    return thumbnail;
+}
+
 const QImage& IconListModel::Thumbnail(int row) const {
     QImage& thumbnail = thumbnails_[static_cast<std::size_t>(row)];
-    if (thumbnail.isNull()) {
-        const PixelPicture picture = MakePixelPicture(editor_.Set().Image(row));
-        // Large images shrink smoothly into the box once; small ones are drawn as they are.
-        const qreal ratio = qApp->devicePixelRatio();
-        const QSize box = (QSizeF(kThumbSide, kThumbSide) * ratio).toSize();
-        QSize size = picture.Size();
-        if (size.width() * ratio > box.width() || size.height() * ratio > box.height()) {
-            size = size.scaled(box, Qt::KeepAspectRatio);
-        } else {
-            size = (QSizeF(size) * ratio).toSize();
-        }
-        thumbnail = QImage(size, QImage::Format_ARGB32_Premultiplied);
-        thumbnail.fill(Qt::transparent);
-        thumbnail.setDevicePixelRatio(ratio);
-        QPainter painter(&thumbnail);
-        DrawPictureOver(painter, QRect(QPoint(0, 0), (QSizeF(size) / ratio).toSize()), picture);
-    }
+    if (thumbnail.isNull()) thumbnail = IconThumbnail(editor_.Set().Image(row), kThumbSide);
     return thumbnail;
 }
 

@@ -13,6 +13,10 @@
 
 namespace iw::ui {
 
+// An image drawn over what lies beneath it, fitted into a `side` x `side` box (logical
+// pixels) at the screen's resolution.
+QImage IconThumbnail(const IconImage& image, int side);
+
 class IconListModel final : public QAbstractListModel {
     Q_OBJECT
 
