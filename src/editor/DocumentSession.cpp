@@ -167,6 +167,21 @@ bool DocumentSession::NewFromTemplate(const IconTemplate& source) {
     return true;
 }
 
+bool DocumentSession::NewFolderIcon(const IconSet& made) {
+    if (made.Empty() || !Ask()) return false;
+    set_.Clear();
+    set_.properties = {};
+    set_.animation = {};
+    set_.mode = FileMode::ICO;
+    for (int i = 0; i < made.Count() && !set_.Full(); ++i)
+        set_.InsertIcon(set_.Count(), made.Image(i).Clone());
+    fileName_.clear();
+    programPath_.clear();
+    Replaced();
+    settings_.Messages().Show(texts::CreateFolderIcon, MessageType::Information);
+    return true;
+}
+
 // ---- Open -------------------------------------------------------------------------------
 
 bool DocumentSession::OpenDocument(const std::string& path) {

@@ -54,6 +54,9 @@ class DocumentSession {
     bool NewCursor();          // one blank image, cursor mode, the "CreateCursor" hint
     bool NewAnimatedCursor();  // one blank image, animated cursor mode, the "CreateANI" hint
     bool NewFromTemplate(const IconTemplate& source);
+    // The folder icon wizard made `made`: after asking to save, it becomes the new untitled
+    // icon, then "CreateFolderIcon" tells how to put it on a folder. An empty set is refused.
+    bool NewFolderIcon(const IconSet& made);
     // A file that does not exist shows "This file could not be found." and changes nothing.
     // A file that cannot be read leaves a new untitled set.
     bool OpenDocument(const std::string& path);

@@ -213,6 +213,23 @@ TEST_F(Lifecycle, NewCursorsShowTheirHintsAndTemplatesMakeEveryFormat) {
     EXPECT_EQ(editor.Document().Mode(), FileMode::ANI);
     EXPECT_EQ(editor.Set().Count(), 1);
 
+    // The folder icon wizard's set becomes the document, after asking to save.
+    IconSet folder;
+    folder.AddIcon(15, 15, 4);
+    folder.AddIcon(47, 47, 32);
+    editor.Document().SwitchICOMode();  // a change, so it asks
+    f.presenter.answer = MessageAnswer::Cancel;
+    EXPECT_FALSE(editor.Document().NewFolderIcon(folder));
+    EXPECT_EQ(editor.Set().Count(), 1);
+    f.presenter.answer = MessageAnswer::No;
+    ASSERT_TRUE(editor.Document().NewFolderIcon(folder));
+    EXPECT_EQ(f.presenter.shown.back().key, "CreateFolderIcon");
+    ASSERT_EQ(editor.Set().Count(), 2);
+    EXPECT_EQ(editor.Set().Info(1).Width(), 48);
+    EXPECT_EQ(editor.Document().Mode(), FileMode::ICO);
+    EXPECT_FALSE(editor.Document().HasFileName());
+    EXPECT_TRUE(editor.Document().Unmodified());
+
     const IconTemplate* classic = editor.Settings().Templates().Find("Windows Classic");
     ASSERT_NE(classic, nullptr);
     ASSERT_TRUE(editor.Document().NewFromTemplate(*classic));

@@ -176,6 +176,15 @@ TEST(StartupCheck, ATypeSwitchedOffOrATurnedOffQuestionIsLeftAlone) {
     EXPECT_TRUE(associations.registered.empty());
 }
 
+TEST(StartupCheck, FileTypesOkRegistersTheCheckedTypesThatAreNotOursYet) {
+    XmlStore settings;
+    FakeAssociations associations;
+    FileTypePresenter window(settings);
+    EXPECT_TRUE(window.Ok({true, true, false}, associations));
+    EXPECT_EQ(associations.registered, (std::vector<std::string>{"ico"}));
+    EXPECT_EQ(window.Load(), (std::array<bool, 3>{true, true, false}));
+}
+
 TEST(StartupCheck, WithTheCheckOffTheRegistryIsNotRead) {
     test::MessageFixture f;
     XmlStore settings;

@@ -11,6 +11,7 @@
 #include "services/core/Texts.h"
 #include "ui/UiText.h"
 #include "ui/adapters/CommandLineText.h"
+#include "ui/desktop/ProgramAssociations.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/CanvasWidget.h"
 
@@ -51,8 +52,10 @@ int main(int argc, char** argv) {
         QObject::connect(window.Canvas(), &iw::ui::CanvasWidget::Painted, &app,
                          &QCoreApplication::quit, Qt::QueuedConnection);
         window.Canvas()->update();
-    } else if (started.showStartupDialog) {
-        window.ShowStartupDialog();
+    } else {
+        // The window is up: is the program still the default editor of its file types?
+        iw::ui::CheckAssociationsAtStartup(window.GetEditor(), *iw::ui::ProgramAssociations());
+        if (started.showStartupDialog) window.ShowStartupDialog();
     }
     return QApplication::exec();
 }

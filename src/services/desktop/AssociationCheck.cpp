@@ -28,4 +28,14 @@ void FileTypePresenter::Save(const std::array<bool, 3>& checked) {
         settings_.SetBool(FileTypes()[i].checkSetting, checked[i]);
 }
 
+bool FileTypePresenter::Ok(const std::array<bool, 3>& checked, IFileAssociations& associations) {
+    Save(checked);
+    bool ok = true;
+    for (std::size_t i = 0; i < checked.size(); ++i) {
+        const FileType& type = FileTypes()[i];
+        if (checked[i] && !associations.IsDefault(type)) ok = associations.Register(type) && ok;
+    }
+    return ok;
+}
+
 }  // namespace iw

@@ -28,6 +28,9 @@ class FileTypePresenter {
     std::array<bool, 3> Load() const;
     // Stores the boxes (written to disk with the other settings).
     void Save(const std::array<bool, 3>& checked);
+    // OK: stores the boxes, then makes the program the default editor of each checked type
+    // it is not the default of yet. False when a type could not be registered.
+    bool Ok(const std::array<bool, 3>& checked, IFileAssociations& associations);
 
   private:
     XmlStore& settings_;

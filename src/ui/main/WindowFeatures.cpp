@@ -1,5 +1,6 @@
 #include "ui/main/WindowFeatures.h"
 
+#include "ui/desktop/DesktopMenu.h"
 #include "ui/animation/AnimationMenu.h"
 #include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
@@ -14,6 +15,7 @@ void InstallWindowFeatures(MainWindow& window) {
     InstallEditFeatures(window);
     InstallImageMenu(window);
     InstallListWindows(window);
+    InstallDesktopMenu(window);
     InstallAnimationMenu(window);
 }
 
