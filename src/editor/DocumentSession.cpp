@@ -4,6 +4,7 @@
 
 #include "document/io/ImageConversion.h"
 #include "document/io/ProgramIcons.h"
+#include "editor/AnimationCommands.h"
 #include "editor/BlankIcons.h"
 #include "editor/EditorTexts.h"
 #include "editor/IconFormats.h"
@@ -241,6 +242,7 @@ bool DocumentSession::OpenFile(const std::string& path, const std::optional<Grou
     groupOffer_ = program && !choice;
     settings_.AddRecentFile(path);
     Replaced();
+    ShowAnimationNotices(set_, settings_.Messages());
     return true;
 }
 

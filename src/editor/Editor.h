@@ -9,7 +9,8 @@
 // - Hotspot(): Set Hotspot for cursors;
 // - Images(): add, remove, change and move the set's images;
 // - Inspector(): the inspector panel and its fix;
-// - Settings(): the settings and message stores, the window's settings, the templates.
+// - Settings(): the settings and message stores, the window's settings, the templates;
+// - Animation(): an animated cursor's sequence, properties and preview.
 // The Editor itself holds which image is edited and the undo history, wires the parts
 // together and runs start-up and exit. The window calls commands (on the Editor or a part),
 // follows the editor through an IEditorObserver and paints from the read-only views.
@@ -18,6 +19,7 @@
 #include <vector>
 
 #include "document/model/IconSet.h"
+#include "editor/AnimationCommands.h"
 #include "editor/CanvasController.h"
 #include "editor/DocumentSession.h"
 #include "editor/EditCommands.h"
@@ -125,6 +127,8 @@ class Editor final : private ICanvasHost,
     // The status bar and progress bar, for the windows' own long work (import, conversion).
     IProgressSink& Progress() { return services_.progress; }
     const ProgramSettings& Settings() const { return settings_; }
+    AnimationCommands& Animation() { return animation_; }
+    const AnimationCommands& Animation() const { return animation_; }
 
   private:
     // Passes the adjustments' events on to their window and to the editor's observers.
@@ -172,6 +176,7 @@ class Editor final : private ICanvasHost,
     InspectorController inspector_;
     DocumentSession session_;
     ImageListCommands images_{set_, settings_.Messages(), *this};
+    AnimationCommands animation_{set_, settings_.Messages(), session_, events_};
     ImageCommands operations_{*this, canvas_, tools_, services_.progress};
     AdjustmentsRelay adjustments_{*this};
 };

@@ -1,6 +1,7 @@
 #include "ui/main/WindowFeatures.h"
 
 #include "ui/desktop/DesktopMenu.h"
+#include "ui/animation/AnimationMenu.h"
 #include "ui/image/ImageMenu.h"
 #include "ui/main/EditFeatures.h"
 #include "ui/main/ListWindows.h"
@@ -17,6 +18,7 @@ void InstallWindowFeatures(MainWindow& window) {
     InstallImageMenu(window);
     InstallListWindows(window);
     InstallDesktopMenu(window);
+    InstallAnimationMenu(window);
 }
 
 }  // namespace iw::ui
