@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "ui/UiText.h"
+#include "ui/animation/AnimationPreviewDialog.h"
 #include "ui/animation/AnimationTexts.h"
-#include "ui/animation/PreviewDialog.h"
 #include "ui/animation/PropertiesDialog.h"
 #include "ui/animation/SequenceDialog.h"
 #include "ui/main/MainActions.h"
@@ -78,8 +78,9 @@ void InstallAnimationMenu(MainWindow& window) {
     QAction* toolSeparator = toolBar->addSeparator();
     toolBar->addAction(button);
 
-    QAction* preview = actions.AddCommand(MenuId::Mode, "mnuPreviewANI", at::PreviewANI,
-                                          [&window] { OpenWindow<PreviewDialog>(window); });
+    QAction* preview = actions.AddCommand(MenuId::Mode, "mnuPreviewANI", at::PreviewANI, [&window] {
+        OpenWindow<AnimationPreviewDialog>(window);
+    });
     QAction* properties = actions.AddCommand(MenuId::File, "mnuProperties", at::Properties,
                                              [&window] { OpenWindow<PropertiesDialog>(window); });
     MoveAfterSaveAs(actions.MenuFor(MenuId::File), properties);

@@ -2,22 +2,9 @@
 
 #include <QPainter>
 
+#include "ui/widgets/SmallChecker.h"
+
 namespace iw::ui {
-namespace {
-
-const QBrush& Checker() {
-    static const QBrush brush = [] {
-        QImage tile(8, 8, QImage::Format_RGB32);
-        tile.fill(QColor(255, 255, 255));
-        QPainter p(&tile);
-        p.fillRect(0, 0, 4, 4, QColor(204, 209, 216));
-        p.fillRect(4, 4, 4, 4, QColor(204, 209, 216));
-        return QBrush(tile);
-    }();
-    return brush;
-}
-
-}  // namespace
 
 QRect FitInto(const QRect& box, QSize size) {
     if (size.width() > box.width() || size.height() > box.height())
@@ -28,7 +15,7 @@ QRect FitInto(const QRect& box, QSize size) {
 
 void FillChecker(QPainter& painter, const QRect& rect) {
     painter.setBrushOrigin(rect.topLeft());
-    painter.fillRect(rect, Checker());
+    painter.fillRect(rect, SmallChecker());
 }
 
 void DrawOnChecker(QPainter& painter, const QRect& target, const PixelPicture& picture) {

@@ -16,7 +16,7 @@
 #include "ui/UiText.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FramePainting.h"
-#include "ui/image/OkCancelButtons.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

@@ -15,7 +15,7 @@
 #include "ui/adapters/HelpLocation.h"
 #include "ui/animation/AnimationTexts.h"
 #include "ui/animation/FrameStrip.h"
-#include "ui/image/OkCancelButtons.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "ui/UiText.h"
 #include "ui/colors/HsvField.h"
-#include "ui/dialogs/DialogButtonTexts.h"
+#include "ui/dialogs/OkCancelButtons.h"
 #include "ui/widgets/ColorSwatch.h"
 
 namespace iw::ui {
@@ -104,16 +104,13 @@ ColorsDialog::ColorsDialog(PackedColor start, int alpha, bool withAlpha, QWidget
     body->addSpacing(8);
     body->addLayout(side);
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(Tr(buttons::OK), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    QPushButton* cancel = buttons->addButton(Tr(buttons::Cancel), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
     // Enter finishes a box's entry; only a click (or Enter on OK itself) closes.
-    ok->setAutoDefault(false);
-    cancel->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    for (QAbstractButton* button : buttons->buttons()) {
+        auto* push = static_cast<QPushButton*>(button);
+        push->setDefault(false);
+        push->setAutoDefault(false);
+    }
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(body, 1);

@@ -13,7 +13,7 @@
 #include <array>
 
 #include "ui/UiText.h"
-#include "ui/image/OkCancelButtons.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

@@ -18,7 +18,7 @@
 #include "ui/UiText.h"
 #include "ui/dialogs/DialogParts.h"
 #include "ui/dialogs/EditTemplateDialog.h"
-#include "ui/image/OkCancelButtons.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

@@ -15,6 +15,7 @@
 #include "services/core/TextCatalog.h"
 #include "ui/UiText.h"
 #include "ui/adapters/RgbaImage.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {
@@ -72,14 +73,8 @@ TextDialog::TextDialog(const TextLook& look, QWidget* parent) : QDialog(parent),
     form->addRow(QString(), antialias_);
     form->addRow(C("lblPreview", "Preview:"), preview_);
 
-    auto* buttons = new QDialogButtonBox(this);
-    ok_ = buttons->addButton(Tr({"cmdOK", "Constants", "OK"}), QDialogButtonBox::AcceptRole);
-    ok_->setObjectName(QStringLiteral("cmdOK"));
-    QPushButton* cancel =
-        buttons->addButton(Tr({"cmdCancel", "Constants", "Cancel"}), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox* buttons = OkCancelButtons(*this);
+    ok_ = buttons->findChild<QPushButton*>(QStringLiteral("cmdOK"));
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);

@@ -13,7 +13,7 @@
 
 #include "services/core/TextCatalog.h"
 #include "ui/UiText.h"
-#include "ui/image/OkCancelButtons.h"
+#include "ui/dialogs/OkCancelButtons.h"
 
 namespace iw::ui {
 namespace {

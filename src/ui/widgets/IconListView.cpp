@@ -6,6 +6,7 @@
 
 #include "ui/UiText.h"
 #include "ui/widgets/PixelPicture.h"
+#include "ui/widgets/SmallChecker.h"
 
 namespace iw::ui {
 namespace {
@@ -15,18 +16,6 @@ constexpr int kPadding = 4;
 
 const TextId kBitsText{"BitsPerPixel", "Constants", "%d bit"};
 const TextId kPngMark{"PNG", "Constants", "PNG"};
-
-const QBrush& ThumbnailChecker() {
-    static const QBrush brush = [] {
-        QImage tile(8, 8, QImage::Format_RGB32);
-        tile.fill(QColor(255, 255, 255));
-        QPainter p(&tile);
-        p.fillRect(0, 0, 4, 4, QColor(214, 218, 224));
-        p.fillRect(4, 4, 4, 4, QColor(214, 218, 224));
-        return QBrush(tile);
-    }();
-    return brush;
-}
 
 }  // namespace
 
@@ -134,7 +123,7 @@ void IconListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         // A small checkerboard under the image shows its size and its clear pixels.
         painter->save();
         painter->setBrushOrigin(target.topLeft());
-        painter->fillRect(target, ThumbnailChecker());
+        painter->fillRect(target, SmallChecker());
         painter->restore();
         painter->drawImage(target, thumbnail);
     }

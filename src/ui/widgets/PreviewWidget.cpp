@@ -2,25 +2,13 @@
 
 #include <QPainter>
 
+#include "ui/widgets/SmallChecker.h"
+
 namespace iw::ui {
 namespace {
 
 // Room for the largest image, so the panels below keep their place whatever is shown.
 constexpr int kSide = IconImage::kSide;
-constexpr int kCheckerSquare = 4;
-
-const QBrush& PreviewChecker() {
-    static const QBrush brush = [] {
-        QImage tile(2 * kCheckerSquare, 2 * kCheckerSquare, QImage::Format_RGB32);
-        tile.fill(QColor(255, 255, 255));
-        QPainter p(&tile);
-        const QColor dark(204, 209, 216);
-        p.fillRect(0, 0, kCheckerSquare, kCheckerSquare, dark);
-        p.fillRect(kCheckerSquare, kCheckerSquare, kCheckerSquare, kCheckerSquare, dark);
-        return QBrush(tile);
-    }();
-    return brush;
-}
 
 }  // namespace
 
@@ -52,7 +40,7 @@ void PreviewWidget::paintEvent(QPaintEvent*) {
     switch (background_) {
         case PreviewBackground::Grid:
             painter.setBrushOrigin(box.topLeft());
-            painter.fillRect(box, PreviewChecker());
+            painter.fillRect(box, SmallChecker());
             break;
         case PreviewBackground::White:
             painter.fillRect(box, Qt::white);

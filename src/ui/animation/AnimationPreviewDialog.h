@@ -17,11 +17,11 @@ namespace iw::ui {
 
 class FrameView;
 
-class PreviewDialog final : public QDialog {
+class AnimationPreviewDialog final : public QDialog {
     Q_OBJECT
 
   public:
-    PreviewDialog(Editor& editor, QWidget* parent = nullptr);
+    AnimationPreviewDialog(Editor& editor, QWidget* parent = nullptr);
 
   private:
     void Show();

@@ -1,4 +1,4 @@
-#include "ui/animation/PreviewDialog.h"
+#include "ui/animation/AnimationPreviewDialog.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -43,7 +43,7 @@ QGroupBox* Framed(const QString& caption, const char* name, QWidget* view, QWidg
 
 }  // namespace
 
-PreviewDialog::PreviewDialog(Editor& editor, QWidget* parent)
+AnimationPreviewDialog::AnimationPreviewDialog(Editor& editor, QWidget* parent)
     : QDialog(parent), player_(editor.Animation().Play()) {
     setObjectName(QStr(at::kPreview));
     setWindowTitle(Tr(texts::PreviewANI));
@@ -73,7 +73,7 @@ PreviewDialog::PreviewDialog(Editor& editor, QWidget* parent)
         player_.StepForward();
         Show();
     });
-    connect(play_, &QPushButton::clicked, this, &PreviewDialog::TogglePlay);
+    connect(play_, &QPushButton::clicked, this, &AnimationPreviewDialog::TogglePlay);
     // Pause is the widest of Play's two captions: the button keeps its width.
     play_->setMinimumWidth(
         std::max(play_->sizeHint().width(), QPushButton(Tr(at::Pause)).sizeHint().width()));
@@ -99,11 +99,11 @@ PreviewDialog::PreviewDialog(Editor& editor, QWidget* parent)
     timer_.setObjectName(QStringLiteral("timPlay"));
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this, &PreviewDialog::TimeUp);
+    connect(&timer_, &QTimer::timeout, this, &AnimationPreviewDialog::TimeUp);
     Show();
 }
 
-void PreviewDialog::Show() {
+void AnimationPreviewDialog::Show() {
     const int frame = player_.Frame();
     actual_->ShowFrame(frame);
     zoomed_->ShowFrame(frame);
@@ -116,13 +116,13 @@ void PreviewDialog::Show() {
         timer_.stop();
 }
 
-void PreviewDialog::TimeUp() {
+void AnimationPreviewDialog::TimeUp() {
     if (!player_.Playing()) return;
     player_.Advance();
     Show();
 }
 
-void PreviewDialog::TogglePlay() {
+void AnimationPreviewDialog::TogglePlay() {
     player_.TogglePlay();
     Show();
 }
