@@ -102,7 +102,10 @@ void MainActions::MakeFileMenu(QMenu* menu) {
     save_->setShortcut(QKeySequence::Save);
     save_->setIcon(UiIcon("save"));
     QAction* saveAs = Add(menu, "mnuSaveAs", mt::SaveAs, [this] { emit SaveAsRequested(); });
-    saveAs->setShortcut(QKeySequence::SaveAs);
+    // Some desktops bind no key to Save As; Ctrl+Shift+S is what users expect there.
+    saveAs->setShortcuts(QKeySequence::keyBindings(QKeySequence::SaveAs).isEmpty()
+                             ? QList<QKeySequence>{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}
+                             : QKeySequence::keyBindings(QKeySequence::SaveAs));
     recentSeparator_ = menu->addSeparator();
     for (int number = 1; number <= 4; ++number) {
         const std::string name = "mnuRecent" + std::to_string(number);
