@@ -24,8 +24,7 @@ RgbaBuffer WithInverse(RgbaBuffer buffer, int x, int y) {
 TEST(Geometry, QuarterTurnsAndFlipsMoveEveryPixel) {
     const RgbaBuffer source = WithInverse(test::Distinct(3, 2), 2, 0);  // top right inverts
     const RgbaBuffer turned = Rotate90(source);
-    ASSERT_EQ(turned.Width(), 2);
-    ASSERT_EQ(turned.Height(), 3);
+    ASSERT_EQ(std::pair(turned.Width(), turned.Height()), std::pair(2, 3));
     EXPECT_EQ(turned.At(1, 0), source.At(0, 0));  // top left goes to the top right
     EXPECT_EQ(turned.At(0, 0), source.At(0, 1));
     EXPECT_TRUE(turned.IsInverse(1, 2));  // top right goes to the bottom right
