@@ -74,8 +74,7 @@ TEST_F(ImageOps, TurnsAndFlipsComeBackToTheImageAndEachIsOneUndoStep) {
 TEST_F(ImageOps, UndoAndRepeatOfAQuarterTurnAndATrimRestoreSidesAndPixels) {
     Open(PatternRect(6, 3, 32));
     ASSERT_TRUE(Run(ImageOperation::Rotate90));
-    EXPECT_EQ(Image().info.Width(), 3);
-    EXPECT_EQ(Image().info.Height(), 6);
+    EXPECT_EQ(std::pair(Image().info.Width(), Image().info.Height()), std::pair(3, 6));
     EXPECT_EQ(Image().Color(2, 0), PatternColor(0, 0));  // the top-left went to the top-right
     f.observer.events.clear();
     ASSERT_TRUE(f.editor.Undo());
