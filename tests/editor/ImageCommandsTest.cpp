@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "EditorFakes.h"
+#include "imaging/Adjustments.h"
 #include "support/TestImages.h"
 
 namespace iw {
@@ -73,8 +74,7 @@ TEST_F(ImageOps, TurnsAndFlipsComeBackToTheImageAndEachIsOneUndoStep) {
 TEST_F(ImageOps, UndoAndRepeatOfAQuarterTurnAndATrimRestoreSidesAndPixels) {
     Open(PatternRect(6, 3, 32));
     ASSERT_TRUE(Run(ImageOperation::Rotate90));
-    EXPECT_EQ(Image().info.Width(), 3);
-    EXPECT_EQ(Image().info.Height(), 6);
+    EXPECT_EQ(std::pair(Image().info.Width(), Image().info.Height()), std::pair(3, 6));
     EXPECT_EQ(Image().Color(2, 0), PatternColor(0, 0));  // the top-left went to the top-right
     f.observer.events.clear();
     ASSERT_TRUE(f.editor.Undo());
@@ -128,7 +128,7 @@ TEST_F(ImageOps, AnOperationOnTheSelectionChangesOnlyItAndUndoesWhole) {
     EXPECT_TRUE(AsOpened());
 }
 
-TEST_F(ImageOps, OperationsThatNeedAColourRefuseAMarker) {
+TEST_F(ImageOps, OperationsThatNeedAColourRefuseAMarkerAndLongOnesShowTheirStatus) {
     Open(PatternRect(4, 4, 32));
     f.editor.Tools().SetForeColor(TransparentColor);
     for (const auto operation :
@@ -140,19 +140,27 @@ TEST_F(ImageOps, OperationsThatNeedAColourRefuseAMarker) {
     ASSERT_TRUE(Run(ImageOperation::MakeTransparent));
     EXPECT_EQ(Image().Alpha(2, 2), 0);
     EXPECT_EQ(Image().Alpha(2, 1), 255);
-}
-
-TEST_F(ImageOps, LongOperationsShowTheirStatusAndClearIt) {
-    Open(PatternRect(4, 4, 32));
     f.progress.statuses.clear();
     ASSERT_TRUE(Run(ImageOperation::DropShadow));
-    ASSERT_FALSE(f.progress.statuses.empty());
-    EXPECT_EQ(f.progress.statuses.front(), "Adding Dropshadow...");
-    EXPECT_EQ(f.progress.statuses.back(), "");
+    EXPECT_EQ(f.progress.statuses, (std::vector<std::string>{"Adding Dropshadow...", ""}));
 }
 
-TEST_F(ImageOps, AdjustmentsOfASelectionLeaveTheRestAlone) {
+TEST_F(ImageOps, AdjustmentsTakeOneUndoStepAndOnASelectionLeaveTheRestAlone) {
     Open(PatternRect(4, 4, 32));
+    f.observer.events.clear();
+    std::unique_ptr<ColorAdjustments> whole = f.editor.AdjustColors();
+    ASSERT_NE(whole, nullptr);
+    whole->SetBrightness(100);
+    whole->Ok();
+    IconImage brighter = original.Clone();
+    DoBrightness(brighter, 100, AdjustChannel::All);
+    EXPECT_TRUE(test::SamePixels(Image(), brighter));
+    EXPECT_EQ(std::pair(f.observer.events["image"], f.observer.events["inspector"]),
+              std::pair(1, 1));
+    EXPECT_FALSE(f.editor.Document().Unmodified());
+    ASSERT_TRUE(f.editor.Undo());
+    EXPECT_TRUE(AsOpened());
+
     f.editor.Tools().SelectTool(ToolId::Select);
     f.Stroke({{0, 0}, {1, 1}});
     std::unique_ptr<ColorAdjustments> adjustments = f.editor.AdjustColors();

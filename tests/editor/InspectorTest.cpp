@@ -136,13 +136,19 @@ TEST_F(InspectorFixes, AddIconsInsertsBlankFormatsInOrderThenCopyImageFillsThem)
               std::tuple(PackColor(200, 0, 0), 255, PackColor(200, 0, 0)));
 }
 
-TEST_F(InspectorFixes, SortKeepsTheCurrentImageCurrent) {
+TEST_F(InspectorFixes, SortKeepsTheCurrentImageCurrentAndShowPointsAtDuplicates) {
     ASSERT_EQ(Check(Set({16, 32})), NotSorted);
     editor.SelectImage(0);
     EXPECT_TRUE(inspector.Fix());
     EXPECT_EQ(editor.CurrentIcon(), 1);
     EXPECT_EQ(editor.CurrentImage().info.Width(), 16);
     EXPECT_EQ(inspector.Panel().state, Correct);
+
+    // Duplicates cannot be fixed: Show points at them.
+    ASSERT_EQ(Check(Set({32, 32, 16})), DuplicateFormats);
+    EXPECT_FALSE(inspector.Fix());
+    EXPECT_EQ(inspector.HighlightedImages(), (std::vector<int>{0, 1}));
+    EXPECT_EQ(editor.CurrentIcon(), 1);
 }
 
 TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
@@ -158,13 +164,6 @@ TEST_F(InspectorFixes, RemoveAsksFirstAndOnlyYesDeletes) {
     EXPECT_TRUE(inspector.Fix());
     EXPECT_EQ(set.Count(), 2);
     EXPECT_EQ(inspector.Panel().state, Correct);
-}
-
-TEST_F(InspectorFixes, ShowPointsAtTheDuplicates) {
-    ASSERT_EQ(Check(Set({32, 32, 16})), DuplicateFormats);
-    EXPECT_FALSE(inspector.Fix());
-    EXPECT_EQ(inspector.HighlightedImages(), (std::vector<int>{0, 1}));
-    EXPECT_EQ(editor.CurrentIcon(), 1);
 }
 
 }  // namespace

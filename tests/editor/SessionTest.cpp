@@ -69,21 +69,5 @@ TEST(Session, OpenDrawUndoSaveReopenOnRealFiles) {
     EXPECT_EQ(editor.Settings().RecentFiles()[0], path);
 }
 
-TEST(Session, AdjustmentsWorkOnTheEditedImageAfterAnUndoSnapshot) {
-    test::EditorFixture f;
-    ASSERT_TRUE(f.Open(test::SolidSet(8, 32, PackColor(10, 200, 250))));
-    f.observer.events.clear();
-    std::unique_ptr<ColorAdjustments> adjustments = f.editor.AdjustColors();
-    ASSERT_NE(adjustments, nullptr);
-    adjustments->SetBrightness(100);
-    EXPECT_EQ(f.editor.CurrentImage().Color(7, 7), PackColor(255, 255, 255));
-    adjustments->Ok();
-    EXPECT_EQ(f.observer.events["image"], 1);
-    EXPECT_EQ(f.observer.events["inspector"], 1);
-    EXPECT_FALSE(f.editor.Document().Unmodified());
-    ASSERT_TRUE(f.editor.Undo());
-    EXPECT_EQ(f.editor.CurrentImage().Color(7, 7), PackColor(10, 200, 250));
-}
-
 }  // namespace
 }  // namespace iw

@@ -34,16 +34,15 @@ TEST(PaletteStrip, ImageColoursComeColumnByColumnWithoutMarkersOrRepeats) {
     // Only the image's own cells count: a pixel beyond its sides is not one of its colours.
     image.Color(4, 0) = PackColor(9, 9, 9);
     EXPECT_EQ(DistinctColors(image).size(), 3u);
-}
 
-TEST(PaletteStrip, At256ColoursTheListStops) {
-    IconImage image = Image(32, 8, 0);
+    // At 256 colours the list stops.
+    IconImage many = Image(32, 8, 0);
     for (int i = 0; i < 32 * 32; ++i)
-        image.Color(i / 32, i % 32) = i;  // 1024 distinct colours
-    const std::vector<PackedColor> colors = DistinctColors(image);
+        many.Color(i / 32, i % 32) = i;  // 1024 distinct colours
+    const std::vector<PackedColor> colors = DistinctColors(many);
     ASSERT_EQ(colors.size(), 256u);
     EXPECT_EQ(colors[255], 255);
-    EXPECT_EQ(PaletteStripColors(image).size(), 258u);
+    EXPECT_EQ(PaletteStripColors(many).size(), 258u);
 }
 
 TEST(PaletteStrip, EachDepthGetsItsOwnColoursAfterTheTwoMarkers) {
@@ -119,13 +118,11 @@ TEST_F(CheckIcon, AddsTheMissingFormatsOfIconsOnly) {
     f.Open(test::SolidSet(32, 32, PackColor(1, 2, 3)));
     const int required = static_cast<int>(editor.Inspector().RequiredFormats().size());
     ASSERT_GT(required, 1);
-    EXPECT_TRUE(FormatsCheckOffered(editor.Set()));
     EXPECT_TRUE(RunFormatsCheck(editor.Inspector()));
     EXPECT_EQ(editor.Set().Count(), required);
     EXPECT_FALSE(RunFormatsCheck(editor.Inspector()));  // nothing missing any more
 
     f.Open(test::SolidSet(32, 32, PackColor(1, 2, 3)), "one.cur");
-    EXPECT_FALSE(FormatsCheckOffered(editor.Set()));
     EXPECT_FALSE(RunFormatsCheck(editor.Inspector()));
     EXPECT_EQ(editor.Set().Count(), 1);
 }
