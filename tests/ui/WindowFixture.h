@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -32,9 +33,33 @@ class ScriptedPresenter final : public IMessagePresenter {
         }
         return {answer, false};
     }
+    std::vector<std::string> Keys() const {
+        std::vector<std::string> keys;
+        for (const MessageBoxRequest& request : shown)
+            keys.push_back(request.key);
+        return keys;
+    }
     std::deque<MessageAnswer> answers;
     std::vector<MessageBoxRequest> shown;
 };
+
+template <typename T = QWidget>
+T* Child(QWidget& parent, const char* name) {
+    T* found = parent.findChild<T*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+// A left click in the middle of the named widget.
+inline void Click(QWidget& parent, const char* name) {
+    QTest::mouseClick(Child(parent, name), Qt::LeftButton);
+}
+// Types over what the named box holds, as a user would.
+inline void Retype(QWidget& parent, const char* box, const QString& text) {
+    auto* edit = Child<QLineEdit>(parent, box);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+}
 
 class ScriptedFiles final : public ui::IFileChooser {
   public:
