@@ -78,6 +78,10 @@ class WindowTest : public ::testing::Test {
     WindowTest() {
         setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
         std::filesystem::create_directories(temp / "data");
+        window = std::make_unique<ui::MainWindow>(Options());
+    }
+    // A window's options over this test's data folder, message boxes and file dialogs.
+    ui::MainWindowOptions Options() {
         ui::MainWindowOptions options;
         options.folders.dataFolder = temp / "data";
         options.folders.programTemplates = TestDataPath("../../data/Templates");
@@ -85,7 +89,7 @@ class WindowTest : public ::testing::Test {
         options.presenter = &presenter;
         options.files = &files;
         options.splash = false;
-        window = std::make_unique<ui::MainWindow>(std::move(options));
+        return options;
     }
 
     // Starts the window with a command line and waits until it shows.
