@@ -95,11 +95,12 @@ TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
     EXPECT_EQ(Floating()->Pixels().Alpha(0, 0), 128);
     EXPECT_EQ(Floating()->Pixels().Color(4, 2), kRed);
 
-    // Copy puts a PNG that keeps the alpha.
+    // Copy puts a PNG that keeps the alpha, and an ordinary image.
     QApplication::clipboard()->clear();
     Trigger("mnuCopy");
     const QMimeData* data = QApplication::clipboard()->mimeData();
     ASSERT_TRUE(data && data->hasFormat(QStringLiteral("image/png")));
+    EXPECT_TRUE(data->hasImage());
     const QImage png = QImage::fromData(data->data(QStringLiteral("image/png")), "PNG");
     ASSERT_EQ(png.size(), QSize(5, 3));
     EXPECT_EQ(png.pixelColor(0, 0), QColor(0, 0, 255, 128));
