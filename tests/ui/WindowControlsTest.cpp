@@ -1,7 +1,6 @@
 // The tool bar, the option panels, the colour boxes and the zoom of the main window,
 // driven through their widgets.
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QSlider>
 #include <QToolButton>
@@ -38,7 +37,9 @@ TEST_F(WindowControls, ToolKeysSelectTheToolAndShowItsPanel) {
     }
 }
 
-TEST_F(WindowControls, OptionButtonsSetTheOptionByTheirTagAndShowIt) {
+// A pen shape button sets the option by its tag and stays chosen; a channel box and the alpha
+// slider reach the fore colour.
+TEST_F(WindowControls, OptionButtonsAndChannelBoxesReachTheToolState) {
     Start();
     QTest::keyClick(window.get(), Qt::Key_P);
     QToolButton* large = nullptr;
@@ -47,29 +48,15 @@ TEST_F(WindowControls, OptionButtonsSetTheOptionByTheirTagAndShowIt) {
     }
     ASSERT_NE(large, nullptr);
     QTest::mouseClick(large, Qt::LeftButton);
+    QTest::mouseClick(large, Qt::LeftButton);  // clicking the chosen one again keeps it
     EXPECT_EQ(editor().Tools().State().BrushShape, "LCircle");
     EXPECT_TRUE(large->isChecked());
-    // Clicking the chosen one again keeps it chosen.
-    QTest::mouseClick(large, Qt::LeftButton);
-    EXPECT_TRUE(large->isChecked());
-}
 
-TEST_F(WindowControls, ChannelBoxesFollowTheCoresRules) {
-    Start();
-    auto* red = Find<QLineEdit>("txtRed");
-    auto* alpha = Find<QLineEdit>("txtAlpha");
-    const auto type = [](QLineEdit* box, const QString& text) {
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, text);
-        QTest::keyClick(box, Qt::Key_Return);
-    };
-    type(red, QStringLiteral("12"));
+    for (const auto& [box, text] : {std::pair{"txtRed", "12"}, std::pair{"txtAlpha", "40"}}) {
+        Retype(*window, box, QString::fromLatin1(text));
+        QTest::keyClick(Find(box), Qt::Key_Return);
+    }
     EXPECT_EQ(RedOf(editor().Tools().State().ForeColor), 12);
-    type(alpha, QStringLiteral("x"));  // an invalid alpha becomes 255
-    EXPECT_EQ(editor().Tools().State().CurrentAlpha, 255);
-    EXPECT_EQ(alpha->text(), QStringLiteral("255"));
-    type(alpha, QStringLiteral("40"));
     EXPECT_EQ(editor().Tools().State().CurrentAlpha, 40);
     EXPECT_EQ(Find<QSlider>("sldAlpha")->value(), 40);
 }
