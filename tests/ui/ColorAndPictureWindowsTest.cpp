@@ -1,11 +1,8 @@
 // The colour picker, the picture import and the conversion wizard, driven through their
 // widgets; the core's state is checked afterwards.
-#include <QDialog>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTimer>
-#include <functional>
 
 #include "WindowFixture.h"
 #include "ui/main/PictureCommands.h"
@@ -45,24 +42,14 @@ struct ColorAndPictureWindows : WindowTest {
     ScriptedPictureFiles pictureFiles;
 };
 
-// Runs `answer` on the modal dialog called `name` as soon as it shows.
-void WhenModal(const char* name, std::function<void(QDialog&)> answer) {
-    QTimer::singleShot(0, [name, answer = std::move(answer)] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        ASSERT_EQ(dialog->objectName(), QLatin1String(name));
-        answer(*dialog);
-    });
-}
-
-void Type(QDialog& dialog, const char* box, const QString& text) {
+void Type(QWidget& dialog, const char* box, const QString& text) {
     Retype(dialog, box, text);
     QTest::keyClick(Child(dialog, box), Qt::Key_Return);
 }
 
 TEST_F(ColorAndPictureWindows, ColorPickerSetsTheForeColourFromTypedValues) {
     Start();
-    WhenModal("frmColors", [](QDialog& dialog) {
+    WhenShown("frmColors", [](QWidget& dialog) {
         Type(dialog, "txtRed", "12");
         Type(dialog, "txtBlue", "200");
         Type(dialog, "txtAlpha", "99");
@@ -76,7 +63,7 @@ TEST_F(ColorAndPictureWindows, ColorPickerSetsTheForeColourFromTypedValues) {
 
     // The background's picker offers no alpha, and Cancel keeps the colour.
     const PackedColor back = editor().Tools().State().BackColor;
-    WhenModal("frmColors", [](QDialog& dialog) {
+    WhenShown("frmColors", [](QWidget& dialog) {
         EXPECT_FALSE(Child(dialog, "txtAlpha")->isVisible());
         Type(dialog, "txtHex", "#00FF00");
         Click(dialog, "cmdCancel");
@@ -112,7 +99,7 @@ TEST_F(ColorAndPictureWindows, ImportFloatsThePictureAndExportWritesOneOrEveryIm
 TEST_F(ColorAndPictureWindows, TheConversionWizardMakesANewSetOfTheChosenTemplate) {
     Start();
     const std::string picture = WritePicture(300, 150);
-    WhenModal("frmConvert", [&](QDialog& dialog) {
+    WhenShown("frmConvert", [&](QWidget& dialog) {
         EXPECT_FALSE(Child(dialog, "cmdNext")->isEnabled());  // no path yet
         Type(dialog, "txtPicture", QString::fromStdString(picture));
         Click(dialog, "cmdNext");

@@ -4,7 +4,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QRadioButton>
-#include <QTimer>
 #include <QTreeWidget>
 #include <functional>
 
@@ -43,17 +42,10 @@ struct ImageListWindows : WindowTest {
     // A right click on row `row` of the icon list, then `act` on its menu once it pops up.
     void ListMenu(int row, std::function<void(QMenu*)> act) {
         int done = 0;
-        auto* poll = new QTimer;
-        poll->setInterval(5);
-        QObject::connect(poll, &QTimer::timeout, [poll, act, &done] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (!menu || menu->objectName() != QLatin1String("mnuIconList")) return;
-            poll->stop();
-            poll->deleteLater();
-            act(menu);
+        WhenShown("mnuIconList", [act, &done](QWidget& menu) {
+            act(qobject_cast<QMenu*>(&menu));
             ++done;
         });
-        poll->start();
         ui::IconListView* list = List();
         const QPoint at = list->visualRect(list->model()->index(row, 0)).center();
         QContextMenuEvent event(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));

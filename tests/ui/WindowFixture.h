@@ -133,13 +133,14 @@ class WindowTest : public ::testing::Test {
                           palette->CellRect(static_cast<int>(found - colors.begin())).center());
         ASSERT_EQ(editor().Tools().State().ForeColor, color);
     }
-    // Runs `drive` on the modal window called `name` as soon as it shows (the caller then
-    // opens it, which blocks until `drive` closes it).
+    // Runs `drive` on the modal window or pop-up menu called `name` as soon as it shows (the
+    // caller then opens it, which blocks until `drive` closes it).
     static void WhenShown(const char* name, std::function<void(QWidget&)> drive) {
         auto* poll = new QTimer;
         poll->setInterval(5);
         QObject::connect(poll, &QTimer::timeout, [poll, name, drive] {
-            QWidget* modal = QApplication::activeModalWidget();
+            QWidget* modal = QApplication::activePopupWidget();
+            if (!modal) modal = QApplication::activeModalWidget();
             if (!modal || modal->objectName() != QLatin1String(name)) return;
             poll->stop();
             poll->deleteLater();
