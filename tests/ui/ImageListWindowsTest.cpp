@@ -122,13 +122,16 @@ struct ProgramGroups : ImageListWindows {
     }
     // The further windows go first; each takes its own menus (top-level widgets) with it.
     ~ProgramGroups() override {
+        for (const QPointer<ui::MainWindow>& other : Others())
+            delete other.data();
+    }
+    std::vector<QPointer<ui::MainWindow>> Others() const {
         std::vector<QPointer<ui::MainWindow>> others;
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             auto* other = qobject_cast<ui::MainWindow*>(widget);
             if (other && other != window.get()) others.emplace_back(other);
         }
-        for (const QPointer<ui::MainWindow>& other : others)
-            delete other.data();
+        return others;
     }
     // Opens the library and answers frmGroups with `act`.
     void OpenWith(std::function<void(QWidget&)> act) {
@@ -159,8 +162,9 @@ struct ProgramGroups : ImageListWindows {
 };
 
 // Group 1 of the library comes in two languages, each with images of its own: the row of
-// the second language opens that one.
-TEST_F(ProgramGroups, TheChosenGroupAndLanguageReplaceTheFirst) {
+// the second language opens that one. Open All then gives every further group and language a
+// window of its own.
+TEST_F(ProgramGroups, TheChosenRowOpensAndOpenAllGivesEveryOtherGroupAWindow) {
     Start();
     ASSERT_TRUE(program);
     const std::vector<std::uint16_t>& languages = program->Groups()[1].languages;
@@ -178,18 +182,13 @@ TEST_F(ProgramGroups, TheChosenGroupAndLanguageReplaceTheFirst) {
     EXPECT_EQ(editor().Document().ProgramPath(), library.string());
     EXPECT_EQ(Asked("OpenEXE"), 1u);
     EXPECT_EQ(List()->model()->rowCount(), editor().Set().Count());
-}
 
-TEST_F(ProgramGroups, OpenAllGivesEveryFurtherGroupAWindowOfItsOwn) {
-    Start();
-    ASSERT_TRUE(program);
+    presenter.answers = {MessageAnswer::Yes};  // "OpenEXE" again
     OpenWith([](QWidget& dialog) { Click(dialog, "cmdOpenAll"); });
     EXPECT_EQ(Sizes(), GroupSizes(0));
     std::vector<std::string> others;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* other = qobject_cast<ui::MainWindow*>(widget);
-        if (other && other != window.get()) others.push_back(SizesOf(other->GetEditor().Set()));
-    }
+    for (const QPointer<ui::MainWindow>& other : Others())
+        others.push_back(SizesOf(other->GetEditor().Set()));
     std::vector<std::string> expected;  // every group in every language but the first
     for (int group = 0; group < static_cast<int>(program->Groups().size()); ++group) {
         for (const std::uint16_t language : program->Groups()[group].languages) {
@@ -200,7 +199,7 @@ TEST_F(ProgramGroups, OpenAllGivesEveryFurtherGroupAWindowOfItsOwn) {
     std::sort(others.begin(), others.end());
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(others, expected);
-    EXPECT_EQ(Asked("OpenEXE"), 1u);  // asked once, in the first window
+    EXPECT_EQ(Asked("OpenEXE"), 2u);  // once for each Open, never in the further windows
 }
 
 }  // namespace
