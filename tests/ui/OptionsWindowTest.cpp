@@ -1,6 +1,6 @@
 // The options window and the template editor driven through their widgets: a row added in
 // frmEditTemplate is saved and comes back in the template and in File > New from Template;
-// Clear Messages brings a silenced message back.
+// Clear Messages brings a silenced message back at once; the General choices wait for OK.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
@@ -28,8 +28,10 @@ struct OptionsWindow : WindowTest {
     }
 };
 
-TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndMakesNewDocuments) {
+// Also on that visit: Clear Messages acts at once, the General choices wait for OK.
+TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndTheGeneralChoicesTakeOk) {
     Start();
+    editor().Settings().Messages().Store().SetBool("Messages\\CreateCursor", true);
     bool edited = false;
     WhenShown("frmOptions", [&](QWidget& options) {
         SelectTemplate(options, "Mine");
@@ -52,10 +54,19 @@ TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndMakesNewDocuments) {
         ASSERT_NE(list->currentItem(), nullptr);
         EXPECT_EQ(list->currentItem()->text(0), QStringLiteral("Mine"));
         EXPECT_EQ(list->currentItem()->text(1), QStringLiteral("2"));
+
+        Child<QComboBox>(options, "cboBlankIcon")->setCurrentIndex(2);
+        Child<QCheckBox>(options, "chkSplash")->setChecked(false);
+        Click(options, "cmdClearMessages");
+        EXPECT_FALSE(Child(options, "cmdClearMessages")->isEnabled());
+        EXPECT_FALSE(editor().Settings().Messages().IsSuppressed("CreateCursor"));
+        EXPECT_EQ(editor().Settings().Window().blankIcon, 0);
         Click(options, "cmdOK");
     });
     Trigger("mnuOptions");
     ASSERT_TRUE(edited);
+    EXPECT_EQ(editor().Settings().Window().blankIcon, 2);
+    EXPECT_FALSE(editor().Settings().Window().splash);
     const IconTemplate* mine = editor().Settings().Templates().Find("Mine");
     ASSERT_NE(mine, nullptr);
     ASSERT_EQ(mine->entries.size(), 2u);
@@ -75,40 +86,6 @@ TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndMakesNewDocuments) {
     ASSERT_EQ(editor().Set().Count(), 2);
     EXPECT_EQ(editor().Set().Info(0).Width(), 24);
     EXPECT_EQ(editor().Set().Info(1).Width(), 32);
-}
-
-TEST_F(OptionsWindow, ClearMessagesActsAtOnceAndTheGeneralChoicesOnOK) {
-    Start();
-    editor().Settings().Messages().Store().SetBool("Messages\\CreateCursor", true);
-    const std::size_t before = presenter.shown.size();
-    ASSERT_TRUE(editor().Document().NewCursor());
-    ASSERT_EQ(presenter.shown.size(), before);  // silenced
-
-    // The General choices wait for OK; clearing the messages does not.
-    const auto chooseGeneral = [](QWidget& options) {
-        Child<QComboBox>(options, "cboBlankIcon")->setCurrentIndex(2);
-        Child<QCheckBox>(options, "chkSplash")->setChecked(false);
-    };
-    WhenShown("frmOptions", [&](QWidget& options) {
-        chooseGeneral(options);
-        Click(options, "cmdClearMessages");
-        EXPECT_FALSE(Child(options, "cmdClearMessages")->isEnabled());
-        Click(options, "cmdCancel");
-    });
-    Trigger("mnuOptions");
-    EXPECT_EQ(editor().Settings().Window().blankIcon, 0);
-    EXPECT_TRUE(editor().Settings().Window().splash);
-    ASSERT_TRUE(editor().Document().NewCursor());
-    ASSERT_EQ(presenter.shown.size(), before + 1);
-    EXPECT_EQ(presenter.shown.back().key, "CreateCursor");
-
-    WhenShown("frmOptions", [&](QWidget& options) {
-        chooseGeneral(options);
-        Click(options, "cmdOK");
-    });
-    Trigger("mnuOptions");
-    EXPECT_EQ(editor().Settings().Window().blankIcon, 2);
-    EXPECT_FALSE(editor().Settings().Window().splash);
 }
 
 }  // namespace
