@@ -1,6 +1,6 @@
 // The main window's document work driven through its widgets: opening a file into the icon
 // list, drawing with the pencil and undoing it, the caption with its modified marker,
-// ask-to-save and save as.
+// ask-to-save, save as and the recent files.
 #include <QMenu>
 
 #include "WindowFixture.h"
@@ -66,15 +66,20 @@ TEST_F(WindowDocument, APencilStrokeUndoesAndIsKeptByCancelAndWrittenBySaveAs) {
     ASSERT_EQ(files.saveModes, std::vector<FileMode>{FileMode::ICO});
     EXPECT_EQ(window->windowTitle(), QStringLiteral("drawn.ico[*] - Quorvale Iconwright"));
     EXPECT_FALSE(window->isWindowModified());
-    QAction* recent = Find<QAction>("mnuRecent1");
-    EXPECT_TRUE(recent->isVisible());
-    EXPECT_TRUE(recent->text().endsWith(QStringLiteral("drawn.ico")));
+    EXPECT_TRUE(Find<QAction>("mnuRecent1")->text().endsWith(QStringLiteral("drawn.ico")));
 
     IconSet read;
     CoreFixture core;
     ASSERT_TRUE(ReadIconFile(*files.savePath, read, core.context));
     ASSERT_EQ(read.Count(), 1);
     EXPECT_EQ(read.Image(0).Color(2, 3), kRed);
+
+    // A second file goes first in the recent list; the second entry opens the first file.
+    ASSERT_TRUE(editor().Document().SaveAs((temp / "b.ico").string()));
+    EXPECT_TRUE(Find<QAction>("mnuRecent2")->text().endsWith(QStringLiteral("drawn.ico")));
+    Trigger("mnuRecent2");
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("drawn.ico[*] - Quorvale Iconwright"));
+    EXPECT_TRUE(Find<QAction>("mnuRecent1")->text().endsWith(QStringLiteral("drawn.ico")));
 }
 
 TEST_F(WindowDocument, ACursorShowsItsModeInTheModeMenu) {

@@ -1,4 +1,4 @@
-// The main window's life: the start-up dialog, the recent files, dropped files, closing with
+// The main window's life: the start-up dialog, dropped files, closing with
 // ask-to-save and the settings kept for the next run, the missing-zlib warning, the log list
 // and an edit request.
 #include <QComboBox>
@@ -45,19 +45,6 @@ TEST_F(WindowLifecycle, StartupDialogTilesMakeTheirSetsAndTheChoiceIsWrittenOnCl
         EXPECT_EQ(editor().Document().Mode(), FileMode::ICO);
     }
     EXPECT_EQ(editor().Settings().Store().GetValue("Settings\\Startup", ""), "2");
-}
-
-TEST_F(WindowLifecycle, RecentFilesOpenFromTheMenuNewestFirst) {
-    Start();
-    ASSERT_TRUE(editor().Document().SaveAs((temp / "a.ico").string()));
-    presenter.answers = {MessageAnswer::No};
-    Trigger("mnuNew");
-    ASSERT_TRUE(editor().Document().SaveAs((temp / "b.ico").string()));
-    EXPECT_TRUE(Find<QAction>("mnuRecent1")->text().endsWith("b.ico"));
-    EXPECT_TRUE(Find<QAction>("mnuRecent2")->text().endsWith("a.ico"));
-    Trigger("mnuRecent2");
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("a.ico[*] - Quorvale Iconwright"));
-    EXPECT_TRUE(Find<QAction>("mnuRecent1")->text().endsWith("a.ico"));
 }
 
 TEST_F(WindowLifecycle, OfSeveralDroppedFilesTheFirstOpens) {
