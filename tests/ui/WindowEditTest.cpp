@@ -1,6 +1,6 @@
 // The Edit menu, the Select and Text tools and Set Hotspot driven through the main window:
 // a selection lifted, moved and dropped, text placed, pictures pasted from the system
-// clipboard and copied to it, the hotspot set by a click, and Undo back.
+// clipboard and copied to it, and Undo back.
 #include <QClipboard>
 #include <QMimeData>
 #include <QToolButton>
@@ -110,20 +110,6 @@ TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
     EXPECT_EQ(PixelAt({4, 2}), kRed);
     Trigger("mnuUndo");
     EXPECT_NE(PixelAt({4, 2}), kRed);
-}
-
-TEST_F(WindowEdit, SetHotspotIsOfferedForCursorsAndAClickSetsIt) {
-    Start();
-    auto* setHotspot = Find<QAction>("mnuSetHotspot");
-    EXPECT_FALSE(setHotspot->isEnabled());
-    Trigger("mnuCUR");
-    ASSERT_TRUE(setHotspot->isEnabled());
-    setHotspot->trigger();
-    EXPECT_TRUE(setHotspot->isChecked());
-    EXPECT_TRUE(editor().Hotspot().Setting());
-    Stroke({{5, 6}});
-    EXPECT_EQ(editor().Hotspot().Position(), (Point{5, 6}));
-    EXPECT_FALSE(setHotspot->isChecked());
 }
 
 }  // namespace
