@@ -53,17 +53,6 @@ TEST(MessageWindow, TheSuppressBoxComesOnlyWithMessagesThatMayBeSilenced) {
     // Ticked: the next time it stays away (no window to answer).
     EXPECT_EQ(messages.Show(texts::CreateCursor, MessageType::Information), MessageAnswer::Ok);
     EXPECT_TRUE(messages.IsSuppressed("CreateCursor"));
-
-    WindowScript question;
-    question.tick = true;
-    question.button = "cmdNo";
-    question.ArmFor(&parent);
-    EXPECT_EQ(
-        messages.Show(texts::SaveUntitled, MessageType::Exclamation, MessageButtons::YesNoCancel),
-        MessageAnswer::No);
-    EXPECT_TRUE(question.seen);
-    EXPECT_FALSE(question.hadBox);
-    EXPECT_FALSE(messages.IsSuppressed("SaveUntitled"));
 }
 
 }  // namespace

@@ -38,8 +38,8 @@ TEST_F(WindowControls, ToolKeysSelectTheToolAndShowItsPanel) {
 }
 
 // A pen shape button sets the option by its tag and stays chosen; a channel box and the alpha
-// slider reach the fore colour.
-TEST_F(WindowControls, OptionButtonsAndChannelBoxesReachTheToolState) {
+// slider reach the fore colour; the View menu's items reach the window settings.
+TEST_F(WindowControls, OptionButtonsChannelBoxesAndTheViewMenuReachTheirState) {
     Start();
     QTest::keyClick(window.get(), Qt::Key_P);
     QToolButton* large = nullptr;
@@ -59,11 +59,8 @@ TEST_F(WindowControls, OptionButtonsAndChannelBoxesReachTheToolState) {
     EXPECT_EQ(RedOf(editor().Tools().State().ForeColor), 12);
     EXPECT_EQ(editor().Tools().State().CurrentAlpha, 40);
     EXPECT_EQ(Find<QSlider>("sldAlpha")->value(), 40);
-}
 
-// The View menu's window settings: the inspector shown or hidden, the preview's background.
-TEST_F(WindowControls, ViewMenuHidesTheInspectorAndChoosesThePreviewBackground) {
-    Start();
+    // The View menu's window settings: the inspector shown or hidden, the preview's background.
     QWidget* inspector = Find<QWidget>("picInspector");
     ASSERT_TRUE(inspector->isVisible());
     Trigger("mnuInspector");

@@ -26,6 +26,7 @@ TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
     ASSERT_EQ(editor().Set().Count(), 7);
     ASSERT_EQ(list->model()->rowCount(), 7);
     EXPECT_EQ(list->model()->index(0, 0).data().toString(), QStringLiteral("256 x 256\n32 bit"));
+    EXPECT_TRUE(list->model()->index(0, 0).data(ui::IconListModel::PngRole).toBool());
 
     const QModelIndex sixth = list->model()->index(5, 0);
     list->scrollTo(sixth);

@@ -15,7 +15,7 @@ using WindowPanels = WindowTest;
 
 // A new icon lacks the default template's formats: the panel says so, its button adds
 // them, and the list and the panel follow each fix.
-TEST_F(WindowPanels, TheInspectorPanelShowsTheProblemAndItsFixRuns) {
+TEST_F(WindowPanels, TheInspectorsFixRunsAndThePaletteAndSwitchSetTheColours) {
     Start();
     auto* text = Find<QLabel>("lblInspector");
     auto* fix = Find<QPushButton>("cmdFix");
@@ -38,10 +38,8 @@ TEST_F(WindowPanels, TheInspectorPanelShowsTheProblemAndItsFixRuns) {
     EXPECT_FALSE(fix->isVisible());
     EXPECT_TRUE(Find<QLabel>("imgCheck")->isVisible());
     EXPECT_FALSE(Find<QLabel>("imgExec")->isVisible());
-}
 
-TEST_F(WindowPanels, PaletteRightClickSetsTheBackgroundAndTheSwitchSwapsThem) {
-    Start();
+    // A right click on the palette sets the background; the switch swaps the two.
     auto* palette = Find<ui::PaletteStrip>("picPalette");
     ASSERT_GE(palette->Colors().size(), 2u);  // the markers lead: cell 1 inverts
     QTest::mouseClick(palette, Qt::RightButton, Qt::NoModifier, palette->CellRect(1).center());
