@@ -78,7 +78,6 @@ TEST_F(FolderWizardTest, SettingWritesTheFolderIconAndComposingMakesTheNewDocume
         Child<QLineEdit>(wizard, "txtIcon")->setText(QString::fromStdString(icon.string()));
         QTest::keyClicks(Child<QLineEdit>(wizard, "txtFolder"),
                          QString::fromStdString(folder.string()));
-        EXPECT_EQ(Child<QLabel>(wizard, "lblCurrentIcon")->text(), QStringLiteral("[no icon]"));
         QTest::mouseClick(Child<QCheckBox>(wizard, "chkCopy"), Qt::LeftButton);
         Click(wizard, "cmdFinish");
         EXPECT_EQ(wizard.result(), QDialog::Accepted);
