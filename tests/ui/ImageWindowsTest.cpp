@@ -25,12 +25,11 @@ struct ImageWindows : WindowTest {
         return window->findChild<QDialog*>(QString::fromLatin1(name));
     }
     // The sides and both planes as they were when the file was opened.
-    bool AsOpened() const {
+    bool AsOpened() {
         const IconImage& now = editor().CurrentImage();
         return now.info.Width() == before.info.Width() &&
                now.info.Height() == before.info.Height() && test::SamePixels(now, before);
     }
-    Editor& editor() const { return window->GetEditor(); }
 
     IconImage before;
 };
