@@ -79,7 +79,6 @@ TEST_F(ColorAndPictureWindows, ImportFloatsThePictureAndExportWritesOneOrEveryIm
     const IFloatingSelection* floating = editor().Canvas().FloatingSelection();
     ASSERT_NE(floating, nullptr);
     EXPECT_EQ(floating->Rect(), (CellRect{0, 8, 32, 16}));
-    EXPECT_EQ(floating->Pixels().Color(3, 8), PackColor(255, 0, 0));
     EXPECT_EQ(floating->Pixels().Color(28, 8), PackColor(0, 0, 255));
     editor().Canvas().DropFloatingSelection();
 
@@ -114,7 +113,6 @@ TEST_F(ColorAndPictureWindows, TheConversionWizardMakesANewSetOfTheChosenTemplat
     const IconTemplate* classic = editor().Settings().Templates().Find("Windows Classic");
     ASSERT_NE(classic, nullptr);
     ASSERT_EQ(editor().Set().Count(), static_cast<int>(classic->entries.size()));
-    EXPECT_FALSE(editor().Document().Unmodified());
     EXPECT_EQ(editor().Set().Image(0).Color(5, 24), PackColor(255, 0, 0));  // the picture's
 }
 
