@@ -61,13 +61,22 @@ struct ImageListWindows : WindowTest {
     std::string Sizes() { return SizesOf(editor().Set()); }
 };
 
-TEST_F(ImageListWindows, TheListMenuAddsMovesAndRemovesImages) {
+// frmAttributes behind the start-up tile; the icon list's menu adding, moving and removing
+// images; then frmAttributes behind Change Attributes (which asks first and converts the edited
+// image's pixels to the new depth).
+TEST_F(ImageListWindows, TheAttributesWindowAndTheListMenuChangeTheImages) {
     Start();
-    ASSERT_EQ(Sizes(), "32x32x32 ");
+    WhenShown("frmStartup", [](QWidget& startup) {
+        WhenShown("frmAttributes", [](QWidget& dialog) { FillAttributes(dialog, "40", "24", 4); });
+        Click(startup, "cmdNewSize");
+    });
+    window->ShowStartupDialog();  // returns once the tile closed the dialog
+    EXPECT_EQ(Sizes(), "40x24x4 ");
+    EXPECT_FALSE(window->isWindowModified());
 
     WhenShown("frmAttributes", [](QWidget& dialog) { FillAttributes(dialog, "16", "16", 8); });
     ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuAddFormat"); });
-    EXPECT_EQ(Sizes(), "32x32x32 16x16x8 ");  // in the standard order, and edited
+    EXPECT_EQ(Sizes(), "40x24x4 16x16x8 ");  // in the standard order, and edited
     EXPECT_EQ(List()->model()->rowCount(), 2);
     EXPECT_TRUE(window->isWindowModified());
 
@@ -76,26 +85,14 @@ TEST_F(ImageListWindows, TheListMenuAddsMovesAndRemovesImages) {
         EXPECT_FALSE(menu->findChild<QAction*>(QStringLiteral("mnuMoveDown"))->isEnabled());
         Choose(menu, "mnuMoveUp");
     });
-    EXPECT_EQ(Sizes(), "16x16x8 32x32x32 ");
+    EXPECT_EQ(Sizes(), "16x16x8 40x24x4 ");
     Trigger("mnuMoveDown");  // the edited image moved up with the row: Move Down takes it back
-    EXPECT_EQ(Sizes(), "32x32x32 16x16x8 ");
+    EXPECT_EQ(Sizes(), "40x24x4 16x16x8 ");
 
     // Remove Icon on the image not edited.
     ListMenu(0, [](QMenu* menu) { Choose(menu, "mnuRemoveIcon"); });
     EXPECT_EQ(Sizes(), "16x16x8 ");
     EXPECT_EQ(List()->model()->rowCount(), 1);
-}
-
-// frmAttributes behind the start-up tile, then behind Change Attributes (which asks first and
-// converts the edited image's pixels to the new depth).
-TEST_F(ImageListWindows, TheStartupTileAndChangeAttributesTakeTheAttributesWindowsAnswer) {
-    Start();
-    WhenShown("frmStartup", [](QWidget& startup) {
-        WhenShown("frmAttributes", [](QWidget& dialog) { FillAttributes(dialog, "40", "24", 4); });
-        Click(startup, "cmdNewSize");
-    });
-    window->ShowStartupDialog();  // returns once the tile closed the dialog
-    EXPECT_EQ(Sizes(), "40x24x4 ");
 
     const PackedColor orange = PackColor(255, 128, 0);
     editor().Tools().SetForeColor(orange);
