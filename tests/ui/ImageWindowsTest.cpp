@@ -61,7 +61,8 @@ TEST_F(ImageWindows, AdjustmentsCancelOrOkAndResizeByPixelsAreUndoneAsOneStepEac
     Trigger("mnuResize");
     QDialog* dialog = Dialog("frmResize");
     ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(Child<QLabel>(*dialog, "lblCurrent")->text(), QStringLiteral("Current Size: 256 x 256"));
+    EXPECT_EQ(Child<QLabel>(*dialog, "lblCurrent")->text(),
+              QStringLiteral("Current Size: 256 x 256"));
     Click(*dialog, "optPixels");
     // The vertical entry follows while proportions are kept, and not once they are not.
     Retype(*dialog, "txtH", QStringLiteral("48"));

@@ -68,8 +68,9 @@ TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndTheGeneralChoicesTak
     const IconTemplate* mine = editor().Settings().Templates().Find("Mine");
     ASSERT_NE(mine, nullptr);
     ASSERT_EQ(mine->entries.size(), 2u);
-    EXPECT_EQ(std::tuple(mine->entries[0].Width(), mine->entries[0].Height(), mine->entries[0].bits),
-              std::tuple(24, 20, 8));
+    EXPECT_EQ(
+        std::tuple(mine->entries[0].Width(), mine->entries[0].Height(), mine->entries[0].bits),
+        std::tuple(24, 20, 8));
     EXPECT_EQ(ReadTemplateFile(mine->path), mine->entries);
 
     // File > New from Template: the list as it is now.
