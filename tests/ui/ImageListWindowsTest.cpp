@@ -136,6 +136,10 @@ struct ProgramGroups : ImageListWindows {
         Trigger("mnuOpen");
         ASSERT_TRUE(QTest::qWaitFor([&] { return done == 1; }));
     }
+    std::ptrdiff_t Asked(const std::string& key) const {
+        const std::vector<std::string> keys = presenter.Keys();
+        return std::count(keys.begin(), keys.end(), key);
+    }
     // The images of a group in a language as the reader gives them.
     std::string GroupSizes(int group, std::optional<std::uint16_t> language = std::nullopt) {
         IconSet set;
@@ -169,7 +173,7 @@ TEST_F(ProgramGroups, TheChosenRowOpensAndOpenAllGivesEveryOtherGroupAWindow) {
     });
     EXPECT_EQ(Sizes(), GroupSizes(1, languages[1]));
     EXPECT_EQ(editor().Document().ProgramPath(), library.string());
-    EXPECT_EQ(presenter.Keys(), std::vector<std::string>{"OpenEXE"});
+    EXPECT_EQ(Asked("OpenEXE"), 1);
     EXPECT_EQ(List()->model()->rowCount(), editor().Set().Count());
 
     presenter.answers = {MessageAnswer::Yes};  // "OpenEXE" again
@@ -188,8 +192,7 @@ TEST_F(ProgramGroups, TheChosenRowOpensAndOpenAllGivesEveryOtherGroupAWindow) {
     std::sort(others.begin(), others.end());
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(others, expected);
-    // Asked once for each Open, never in the further windows.
-    EXPECT_EQ(presenter.Keys(), (std::vector<std::string>{"OpenEXE", "OpenEXE"}));
+    EXPECT_EQ(Asked("OpenEXE"), 2);  // once for each Open, never in the further windows
 }
 
 }  // namespace
