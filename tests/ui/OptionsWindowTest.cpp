@@ -12,29 +12,20 @@
 namespace iw::test {
 namespace {
 
-struct OptionsWindow : WindowTest {
-    OptionsWindow() {
-        TemplateEntry mine;  // 32 x 32 at 32 bits
-        std::filesystem::create_directories(temp / "data" / "Templates");
-        WriteTemplateFile(temp / "data" / "Templates" / "Mine.ini", {mine});
-    }
-
-    // Selects a template of the Templates tab by its name.
-    static void SelectTemplate(QWidget& options, const char* name) {
-        auto* list = Child<QTreeWidget>(options, "lstTemplates");
-        const auto found = list->findItems(QString::fromLatin1(name), Qt::MatchExactly);
-        ASSERT_EQ(found.size(), 1);
-        list->setCurrentItem(found[0]);
-    }
-};
+using OptionsWindow = WindowTest;
 
 // Also on that visit: Clear Messages acts at once, the General choices wait for OK.
 TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndTheGeneralChoicesTakeOk) {
+    std::filesystem::create_directories(temp / "data" / "Templates");
+    WriteTemplateFile(temp / "data" / "Templates" / "Mine.ini", {TemplateEntry{}});  // 32 x 32
     Start();
     editor().Settings().Messages().Store().SetBool("Messages\\CreateCursor", true);
     bool edited = false;
     WhenShown("frmOptions", [&](QWidget& options) {
-        SelectTemplate(options, "Mine");
+        auto* list = Child<QTreeWidget>(options, "lstTemplates");
+        const auto found = list->findItems(QStringLiteral("Mine"), Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        list->setCurrentItem(found[0]);
         WhenShown("frmEditTemplate", [&](QWidget& editor) {
             Retype(editor, "txtWidth", QStringLiteral("24"));
             Retype(editor, "txtHeight", QStringLiteral("20"));
@@ -48,7 +39,6 @@ TEST_F(OptionsWindow, ARowAddedInTheTemplateEditorIsSavedAndTheGeneralChoicesTak
         });
         Click(options, "cmdEdit");
         // The list was read again: the template now has two formats.
-        auto* list = Child<QTreeWidget>(options, "lstTemplates");
         ASSERT_NE(list->currentItem(), nullptr);
         EXPECT_EQ(list->currentItem()->text(0), QStringLiteral("Mine"));
         EXPECT_EQ(list->currentItem()->text(1), QStringLiteral("2"));

@@ -12,13 +12,7 @@ namespace {
 
 const PackedColor kRed = PackColor(255, 0, 0);
 
-struct WindowDocument : WindowTest {
-    // Red from the palette strip and the Pencil by its key.
-    void ChooseRedPencil() {
-        ChooseFromPalette(kRed);
-        QTest::keyClick(window.get(), Qt::Key_P);
-    }
-};
+using WindowDocument = WindowTest;
 
 TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
     Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());
@@ -42,7 +36,8 @@ TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
 // asks first (Cancel keeps the drawing); Save As writes it and names the window.
 TEST_F(WindowDocument, APencilStrokeUndoesAndIsKeptByCancelAndWrittenBySaveAs) {
     Start();
-    ChooseRedPencil();
+    ChooseFromPalette(kRed);
+    QTest::keyClick(window.get(), Qt::Key_P);  // the Pencil
     const PackedColor before = PixelAt({2, 3});
     EXPECT_EQ(window->windowTitle(), QStringLiteral("untitled[*] - Quorvale Iconwright"));
     EXPECT_FALSE(Find<QAction>("mnuUndo")->isEnabled());
