@@ -35,8 +35,8 @@ struct ImageWindows : WindowTest {
 };
 
 // Adjustments: Cancel restores every pixel without an undo step, OK leaves one. Resize: typed
-// pixels with and without kept proportions, then OK and Undo.
-TEST_F(ImageWindows, AdjustmentsCancelOrOkAndResizeByPixelsAreUndoneAsOneStepEach) {
+// pixels with and without kept proportions, then OK and Undo. Then every operation of the menu.
+TEST_F(ImageWindows, AdjustmentsResizeAndEveryOperationOfTheMenuAreOneUndoStepEach) {
     ASSERT_FALSE(editor().CurrentImage().OriginalPng().empty());  // a PNG entry, kept as read
     for (const bool ok : {false, true}) {
         Trigger("mnuAdjustColors");
@@ -77,9 +77,8 @@ TEST_F(ImageWindows, AdjustmentsCancelOrOkAndResizeByPixelsAreUndoneAsOneStepEac
     EXPECT_EQ(window->Canvas()->width(), 48 * editor().View().State().PixelSize);
     Trigger("mnuUndo");
     EXPECT_TRUE(AsOpened());
-}
 
-TEST_F(ImageWindows, EveryOperationOfTheMenuIsOneUndoStep) {
+    // Every operation of the menu records one undo step.
     for (const char* name :
          {"mnuFlipHorizontal", "mnuFlipVertical", "mnuRotate90", "mnuRotate180", "mnuRotate270",
           "mnuTrim", "mnuGreyscale", "mnuInvert", "mnuMakeTransparent", "mnuColorize", "mnuTwoTone",

@@ -15,8 +15,9 @@ namespace {
 using WindowControls = WindowTest;
 
 // Each tool's key selects it and shows its option panel and no other (Text opens its window:
-// WindowEditTest).
-TEST_F(WindowControls, ToolKeysSelectTheToolAndShowItsPanel) {
+// WindowEditTest); a pen shape button sets the option by its tag and stays chosen; a channel
+// box and the alpha slider reach the fore colour; the View menu's items the window settings.
+TEST_F(WindowControls, ToolKeysOptionButtonsChannelBoxesAndTheViewMenuReachTheirState) {
     Start();
     const std::vector<std::tuple<Qt::Key, ToolId, const char*>> cases = {
         {Qt::Key_S, ToolId::Select, "fraSelection"},  {Qt::Key_F, ToolId::Fill, "fraNothing"},
@@ -35,12 +36,7 @@ TEST_F(WindowControls, ToolKeysSelectTheToolAndShowItsPanel) {
             EXPECT_EQ(Find<QWidget>(name.toLatin1().constData())->isVisible(), name == panel)
                 << name.toStdString();
     }
-}
 
-// A pen shape button sets the option by its tag and stays chosen; a channel box and the alpha
-// slider reach the fore colour; the View menu's items reach the window settings.
-TEST_F(WindowControls, OptionButtonsChannelBoxesAndTheViewMenuReachTheirState) {
-    Start();
     QTest::keyClick(window.get(), Qt::Key_P);
     QToolButton* large = nullptr;
     for (QToolButton* button : window->findChildren<QToolButton*>(QStringLiteral("picPen"))) {

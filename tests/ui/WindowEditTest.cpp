@@ -34,7 +34,7 @@ struct WindowEdit : WindowTest {
     }
 };
 
-TEST_F(WindowEdit, ASelectionIsLiftedMovedByMouseAndKeysAndDroppedTransparent) {
+TEST_F(WindowEdit, ASelectionIsMovedAndDroppedAndTheTextWindowsTextFloatsInTheForeColour) {
     Start();
     ASSERT_EQ(editor().CurrentImage().info.bitCount, 32);
     Plot({2, 2}, kRed);
@@ -55,10 +55,8 @@ TEST_F(WindowEdit, ASelectionIsLiftedMovedByMouseAndKeysAndDroppedTransparent) {
     QTest::keyClick(window->Canvas(), Qt::Key_Return);
     EXPECT_EQ(Floating(), nullptr);
     EXPECT_EQ(PixelAt({6, 4}), kRed);
-}
 
-TEST_F(WindowEdit, TheTextWindowPlacesTextInTheForeColorAsAFloatingSelection) {
-    Start();
+    // The Text tool's window: its text floats in the fore colour, dropped as one undo step.
     ChooseFromPalette(kBlue);
     WhenShown("frmText", [](QWidget& dialog) {
         EXPECT_FALSE(Child(dialog, "cmdOK")->isEnabled());  // no text yet
