@@ -34,7 +34,7 @@ struct WindowEdit : WindowTest {
     }
 };
 
-TEST_F(WindowEdit, ASelectionIsMovedAndDroppedAndTheTextWindowsTextFloatsInTheForeColour) {
+TEST_F(WindowEdit, TheSelectionTextAndAPastedPictureFloatAndDrop) {
     Start();
     ASSERT_EQ(editor().CurrentImage().info.bitCount, 32);
     Plot({2, 2}, kRed);
@@ -73,10 +73,8 @@ TEST_F(WindowEdit, ASelectionIsMovedAndDroppedAndTheTextWindowsTextFloatsInTheFo
     EXPECT_GT(CountOf(kBlue), 4);
     Trigger("mnuUndo");
     EXPECT_EQ(CountOf(kBlue), 0);
-}
 
-TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
-    Start();
+    // A picture from another program is pasted, and a copy keeps its alpha.
     QApplication::clipboard()->clear();
     EXPECT_FALSE(Find<QAction>("mnuPaste")->isEnabled());
     QImage picture(5, 3, QImage::Format_ARGB32);
