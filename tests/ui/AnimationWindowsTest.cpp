@@ -43,10 +43,6 @@ struct AnimationWindows : WindowTest {
         QTest::mouseMove(from, end);
         QTest::mouseRelease(from, Qt::LeftButton, Qt::NoModifier, end);
     }
-    // The left edge of a film strip cell: a drop there goes before it.
-    static QPoint Before(ui::FrameStrip* film, int cell) {
-        return film->CellRect(cell).center() - QPoint(film->CellRect(cell).width() / 3, 0);
-    }
 };
 
 TEST_F(AnimationWindows, SequenceEditorOkStoresTheFilmStripAsTheSequence) {
@@ -59,7 +55,8 @@ TEST_F(AnimationWindows, SequenceEditorOkStoresTheFilmStripAsTheSequence) {
     ui::FrameStrip* film = dialog->Film();
     EXPECT_EQ(film->Frames(), (std::vector<int>{0, 1, 2}));
 
-    Drag(frames, 2, film, Before(film, 0));  // the third frame to the front
+    // The third frame to the front: dropped on the left edge of the first cell.
+    Drag(frames, 2, film, film->CellRect(0).center() - QPoint(film->CellRect(0).width() / 3, 0));
     EXPECT_EQ(film->Frames(), (std::vector<int>{2, 0, 1, 2}));
     Drag(film, 3, frames, frames->CellRect(0).center());  // the last step out
     EXPECT_EQ(film->Frames(), (std::vector<int>{2, 0, 1}));

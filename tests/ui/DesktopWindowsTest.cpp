@@ -55,19 +55,12 @@ TEST_F(DesktopWindows, FileTypesOkStoresTheBoxesAndRegistersOnlyCheckedTypesNotY
     EXPECT_EQ(associations.registered, std::vector<std::string_view>{"ani"});
 }
 
-struct FolderWizardTest : WindowTest {
-    FolderWizardTest()
-        : icons(platform::DesktopShell::Windows,
-                [](const std::string&, const std::vector<std::string>&) {
-                    return platform::ProgramRun{};
-                }) {}
-    FolderIcons icons;
-};
-
 // Set: the folder and icon typed in, Finish writes the icon beside desktop.ini. Create: Finish
 // makes the composed folder icon the new document.
-TEST_F(FolderWizardTest, SettingWritesTheFolderIconAndComposingMakesTheNewDocument) {
+TEST_F(DesktopWindows, FolderWizardSettingWritesTheFolderIconAndComposingMakesANewDocument) {
     Start();
+    FolderIcons icons(platform::DesktopShell::Windows,
+                      [](const std::string&, const auto&) { return platform::ProgramRun{}; });
     const std::filesystem::path folder = temp / "Pictures";
     std::filesystem::create_directories(folder);
     const std::filesystem::path icon = TestDataPath("interop/icotool-8bpp-48.ico");

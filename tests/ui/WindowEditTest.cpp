@@ -14,13 +14,6 @@ const PackedColor kRed = PackColor(255, 0, 0);
 const PackedColor kBlue = PackColor(0, 0, 255);
 
 struct WindowEdit : WindowTest {
-    // A pixel in that colour, drawn with the small square pencil.
-    void Plot(Point cell, PackedColor color) {
-        ChooseFromPalette(color);
-        QTest::keyClick(window.get(), Qt::Key_P);
-        Stroke({cell});
-        ASSERT_EQ(PixelAt(cell), color);
-    }
     const IFloatingSelection* Floating() { return editor().Canvas().FloatingSelection(); }
     // Cells of the image that hold `color` at full alpha.
     int CountOf(PackedColor color) {
@@ -37,7 +30,10 @@ struct WindowEdit : WindowTest {
 TEST_F(WindowEdit, TheSelectionTextAndAPastedPictureFloatAndDrop) {
     Start();
     ASSERT_EQ(editor().CurrentImage().info.bitCount, 32);
-    Plot({2, 2}, kRed);
+    ChooseFromPalette(kRed);
+    QTest::keyClick(window.get(), Qt::Key_P);  // the small square pencil
+    Stroke({{2, 2}});
+    ASSERT_EQ(PixelAt({2, 2}), kRed);
 
     QTest::keyClick(window.get(), Qt::Key_S);
     QTest::mouseClick(Find<QToolButton>("picTransparent"), Qt::LeftButton);
