@@ -1,5 +1,5 @@
-// frmMessage: the suppress box is offered only when the core allows it, and ticking it
-// silences the message from then on.
+// frmMessage: the suppress box offered with a message the core lets the user silence, and
+// ticking it silences the message from then on (AdaptersTest: no box with the others).
 #include <QCheckBox>
 #include <QLabel>
 #include <QTimer>

@@ -1,6 +1,6 @@
 // The main window's document work driven through its widgets: opening a file into the icon
 // list, drawing with the pencil and undoing it, the caption with its modified marker,
-// ask-to-save, save as and the recent files.
+// ask-to-save, save as and the recent files, the mode menu and a cursor's hotspot.
 #include <QMenu>
 
 #include "WindowFixture.h"

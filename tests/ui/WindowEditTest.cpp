@@ -1,4 +1,4 @@
-// The Edit menu, the Select and Text tools and Set Hotspot driven through the main window:
+// The Edit menu and the Select and Text tools driven through the main window:
 // a selection lifted, moved and dropped, text placed, pictures pasted from the system
 // clipboard and copied to it, and Undo back.
 #include <QClipboard>
