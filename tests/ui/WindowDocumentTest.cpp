@@ -17,8 +17,7 @@ using WindowDocument = WindowTest;
 TEST_F(WindowDocument, AnOpenedFileShowsEveryImageInTheListAndAClickEditsOne) {
     Start(TestDataPath("interop/magick-32bpp-16-256.ico").string());
     auto* list = Find<ui::IconListView>("picIcons");
-    ASSERT_EQ(editor().Set().Count(), 7);
-    ASSERT_EQ(list->model()->rowCount(), 7);
+    ASSERT_EQ(list->model()->rowCount(), editor().Set().Count());
     EXPECT_EQ(list->model()->index(0, 0).data().toString(), QStringLiteral("256 x 256\n32 bit"));
     EXPECT_TRUE(list->model()->index(0, 0).data(ui::IconListModel::PngRole).toBool());
 
