@@ -1,5 +1,6 @@
 // The small translations between Qt and the core: the command line, the file dialogs'
 // filters, and the message window's buttons and answers.
+#include <QCheckBox>
 #include <QDir>
 #include <QPushButton>
 
@@ -55,6 +56,7 @@ TEST(MessageWindow, EveryButtonGivesItsAnswerAndClosingTheSafeOne) {
         request.buttons = buttons;
         ui::MessageWindow window(request);
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Title"));
+        EXPECT_EQ(window.findChild<QCheckBox*>(QStringLiteral("chkDontShow")), nullptr);
         const int count =
             buttons == MessageButtons::Ok ? 1 : (buttons == MessageButtons::YesNoCancel ? 3 : 2);
         EXPECT_EQ(window.findChildren<QPushButton*>().size(), count);

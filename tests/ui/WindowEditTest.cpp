@@ -1,10 +1,8 @@
-// The Edit menu, the Select and Text tools and Set Hotspot driven through the main window:
+// The Edit menu and the Select and Text tools driven through the main window:
 // a selection lifted, moved and dropped, text placed, pictures pasted from the system
-// clipboard and copied to it, the hotspot set by a click, and Undo back.
+// clipboard and copied to it, and Undo back.
 #include <QClipboard>
 #include <QMimeData>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QToolButton>
 
 #include "WindowFixture.h"
@@ -16,13 +14,6 @@ const PackedColor kRed = PackColor(255, 0, 0);
 const PackedColor kBlue = PackColor(0, 0, 255);
 
 struct WindowEdit : WindowTest {
-    // A pixel in that colour, drawn with the small square pencil.
-    void Plot(Point cell, PackedColor color) {
-        ChooseFromPalette(color);
-        QTest::keyClick(window.get(), Qt::Key_P);
-        Stroke({cell});
-        ASSERT_EQ(PixelAt(cell), color);
-    }
     const IFloatingSelection* Floating() { return editor().Canvas().FloatingSelection(); }
     // Cells of the image that hold `color` at full alpha.
     int CountOf(PackedColor color) {
@@ -36,11 +27,13 @@ struct WindowEdit : WindowTest {
     }
 };
 
-TEST_F(WindowEdit, ASelectionIsLiftedMovedByMouseAndKeysAndDroppedTransparent) {
+TEST_F(WindowEdit, TheSelectionTextAndAPastedPictureFloatAndDrop) {
     Start();
     ASSERT_EQ(editor().CurrentImage().info.bitCount, 32);
-    Plot({2, 2}, kRed);
-    Plot({7, 4}, kBlue);  // lies under a clear cell of the selection once it is moved
+    ChooseFromPalette(kRed);
+    QTest::keyClick(window.get(), Qt::Key_P);  // the small square pencil
+    Stroke({{2, 2}});
+    ASSERT_EQ(PixelAt({2, 2}), kRed);
 
     QTest::keyClick(window.get(), Qt::Key_S);
     QTest::mouseClick(Find<QToolButton>("picTransparent"), Qt::LeftButton);
@@ -58,28 +51,15 @@ TEST_F(WindowEdit, ASelectionIsLiftedMovedByMouseAndKeysAndDroppedTransparent) {
     QTest::keyClick(window->Canvas(), Qt::Key_Return);
     EXPECT_EQ(Floating(), nullptr);
     EXPECT_EQ(PixelAt({6, 4}), kRed);
-    EXPECT_EQ(PixelAt({7, 4}), kBlue);  // a clear cell dropped transparent keeps the image's
-}
 
-TEST_F(WindowEdit, TheTextWindowPlacesTextInTheForeColorAsAFloatingSelection) {
-    Start();
+    // The Text tool's window: its text floats in the fore colour, dropped as one undo step.
     ChooseFromPalette(kBlue);
-    // Cancelled: nothing floats.
     WhenShown("frmText", [](QWidget& dialog) {
-        dialog.findChild<QPushButton*>(QStringLiteral("cmdCancel"))->click();
+        EXPECT_FALSE(Child(dialog, "cmdOK")->isEnabled());  // no text yet
+        QTest::keyClicks(Child(dialog, "txtText"), "Hi");
+        Click(dialog, "cmdOK");
     });
-    auto* textTool = Find<QToolButton>("tbrToolsText");
-    QTest::mouseClick(textTool, Qt::LeftButton);
-    EXPECT_EQ(Floating(), nullptr);
-
-    WhenShown("frmText", [](QWidget& dialog) {
-        auto* ok = dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"));
-        EXPECT_FALSE(ok->isEnabled());  // no text yet
-        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>(QStringLiteral("txtText")), "Hi");
-        EXPECT_TRUE(ok->isEnabled());
-        ok->click();
-    });
-    QTest::mouseClick(textTool, Qt::LeftButton);
+    QTest::mouseClick(Find("tbrToolsText"), Qt::LeftButton);
     ASSERT_NE(Floating(), nullptr);
     EXPECT_EQ(editor().Tools().State().CurrentTool, ToolId::Select);
     EXPECT_TRUE(Find<QWidget>("fraSelection")->isVisible());
@@ -89,10 +69,8 @@ TEST_F(WindowEdit, TheTextWindowPlacesTextInTheForeColorAsAFloatingSelection) {
     EXPECT_GT(CountOf(kBlue), 4);
     Trigger("mnuUndo");
     EXPECT_EQ(CountOf(kBlue), 0);
-}
 
-TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
-    Start();
+    // A picture from another program is pasted, and a copy keeps its alpha.
     QApplication::clipboard()->clear();
     EXPECT_FALSE(Find<QAction>("mnuPaste")->isEnabled());
     QImage picture(5, 3, QImage::Format_ARGB32);
@@ -103,8 +81,6 @@ TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
 
     Trigger("mnuPaste");
     ASSERT_NE(Floating(), nullptr);
-    EXPECT_EQ(Floating()->Rect(), (CellRect{0, 0, 5, 3}));
-    EXPECT_EQ(Floating()->Pixels().Color(0, 0), kBlue);
     EXPECT_EQ(Floating()->Pixels().Alpha(0, 0), 128);
     EXPECT_EQ(Floating()->Pixels().Color(4, 2), kRed);
 
@@ -112,8 +88,7 @@ TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
     QApplication::clipboard()->clear();
     Trigger("mnuCopy");
     const QMimeData* data = QApplication::clipboard()->mimeData();
-    ASSERT_NE(data, nullptr);
-    ASSERT_TRUE(data->hasFormat(QStringLiteral("image/png")));
+    ASSERT_TRUE(data && data->hasFormat(QStringLiteral("image/png")));
     EXPECT_TRUE(data->hasImage());
     const QImage png = QImage::fromData(data->data(QStringLiteral("image/png")), "PNG");
     ASSERT_EQ(png.size(), QSize(5, 3));
@@ -124,20 +99,6 @@ TEST_F(WindowEdit, PictureFromAnotherProgramIsPastedAndACopyKeepsItsAlpha) {
     EXPECT_EQ(PixelAt({4, 2}), kRed);
     Trigger("mnuUndo");
     EXPECT_NE(PixelAt({4, 2}), kRed);
-}
-
-TEST_F(WindowEdit, SetHotspotIsOfferedForCursorsAndAClickSetsIt) {
-    Start();
-    auto* setHotspot = Find<QAction>("mnuSetHotspot");
-    EXPECT_FALSE(setHotspot->isEnabled());
-    Trigger("mnuCUR");
-    ASSERT_TRUE(setHotspot->isEnabled());
-    setHotspot->trigger();
-    EXPECT_TRUE(setHotspot->isChecked());
-    EXPECT_TRUE(editor().Hotspot().Setting());
-    Stroke({{5, 6}});
-    EXPECT_EQ(editor().Hotspot().Position(), (Point{5, 6}));
-    EXPECT_FALSE(setHotspot->isChecked());
 }
 
 }  // namespace

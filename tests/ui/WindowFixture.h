@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -32,9 +33,33 @@ class ScriptedPresenter final : public IMessagePresenter {
         }
         return {answer, false};
     }
+    std::vector<std::string> Keys() const {
+        std::vector<std::string> keys;
+        for (const MessageBoxRequest& request : shown)
+            keys.push_back(request.key);
+        return keys;
+    }
     std::deque<MessageAnswer> answers;
     std::vector<MessageBoxRequest> shown;
 };
+
+template <typename T = QWidget>
+T* Child(QWidget& parent, const char* name) {
+    T* found = parent.findChild<T*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+// A left click in the middle of the named widget.
+inline void Click(QWidget& parent, const char* name) {
+    QTest::mouseClick(Child(parent, name), Qt::LeftButton);
+}
+// Types over what the named box holds, as a user would.
+inline void Retype(QWidget& parent, const char* box, const QString& text) {
+    auto* edit = Child<QLineEdit>(parent, box);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+}
 
 class ScriptedFiles final : public ui::IFileChooser {
   public:
@@ -53,6 +78,10 @@ class WindowTest : public ::testing::Test {
     WindowTest() {
         setenv("XDG_DATA_HOME", temp.Path().c_str(), 1);
         std::filesystem::create_directories(temp / "data");
+        window = std::make_unique<ui::MainWindow>(Options());
+    }
+    // A window's options over this test's data folder, message boxes and file dialogs.
+    ui::MainWindowOptions Options() {
         ui::MainWindowOptions options;
         options.folders.dataFolder = temp / "data";
         options.folders.programTemplates = TestDataPath("../../data/Templates");
@@ -60,7 +89,7 @@ class WindowTest : public ::testing::Test {
         options.presenter = &presenter;
         options.files = &files;
         options.splash = false;
-        window = std::make_unique<ui::MainWindow>(std::move(options));
+        return options;
     }
 
     // Starts the window with a command line and waits until it shows.
@@ -104,13 +133,14 @@ class WindowTest : public ::testing::Test {
                           palette->CellRect(static_cast<int>(found - colors.begin())).center());
         ASSERT_EQ(editor().Tools().State().ForeColor, color);
     }
-    // Runs `drive` on the modal window called `name` as soon as it shows (the caller then
-    // opens it, which blocks until `drive` closes it).
+    // Runs `drive` on the modal window or pop-up menu called `name` as soon as it shows (the
+    // caller then opens it, which blocks until `drive` closes it).
     static void WhenShown(const char* name, std::function<void(QWidget&)> drive) {
         auto* poll = new QTimer;
         poll->setInterval(5);
         QObject::connect(poll, &QTimer::timeout, [poll, name, drive] {
-            QWidget* modal = QApplication::activeModalWidget();
+            QWidget* modal = QApplication::activePopupWidget();
+            if (!modal) modal = QApplication::activeModalWidget();
             if (!modal || modal->objectName() != QLatin1String(name)) return;
             poll->stop();
             poll->deleteLater();
