@@ -32,9 +32,19 @@ CommandLine ParseCommandLine(std::string_view text) {
     CommandLine command;
     command.text = Trimmed(text);
     command.log = command.text.find(kLogSwitch) != std::string::npos;
+    // The switch is taken out of the path only where it stands as a word of its own, so a
+    // path such as /var/log/a.ico or /home/u/logos/a.ico keeps its name.
     std::string path = command.text;
-    for (std::size_t at; (at = path.find(kLogSwitch)) != std::string::npos;)
-        path.erase(at, kLogSwitch.size());
+    const auto blankAt = [&path](std::size_t at) {
+        return std::isspace(static_cast<unsigned char>(path[at])) != 0;
+    };
+    for (std::size_t at = 0; (at = path.find(kLogSwitch, at)) != std::string::npos;) {
+        const std::size_t end = at + kLogSwitch.size();
+        if ((at == 0 || blankAt(at - 1)) && (end == path.size() || blankAt(end)))
+            path.erase(at, kLogSwitch.size());
+        else
+            at = end;
+    }
     path = Trimmed(path);
     // The quotes a shell puts round a path with blanks.
     if (path.size() >= 2 && path.front() == '"' && path.back() == '"')

@@ -82,6 +82,12 @@ TEST_F(Lifecycle, CommandLineOpensAFileOrReportsItMissing) {
     ASSERT_EQ(f.presenter.shown.size(), 1u);
     EXPECT_TRUE(f.presenter.shown[0].text.ends_with("\n/nowhere/x.ico"));
     EXPECT_EQ(editor.Document().FileName(), path);  // the window keeps what it had
+
+    // Only a stand-alone switch leaves the path: a folder named like it stays.
+    const std::string logos = f.PathFor("logos.ico");
+    f.documents.Put(logos, test::SolidSet(16, 32, PackColor(1, 2, 3)));
+    EXPECT_TRUE(editor.HandleCommandLine(logos));
+    EXPECT_EQ(editor.Document().FileName(), logos);
 }
 
 TEST_F(Lifecycle, AskToSaveAsksOnlyAfterChangesAndNamesTheFileOrUntitled) {
