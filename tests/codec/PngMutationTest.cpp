@@ -60,11 +60,10 @@ TEST_P(PngMutation, EveryFlippedByteAndEveryCutEndsCleanly) {
     EXPECT_GT(loads, 5000);
 }
 
-// Inputs the fuzzer found to break the reader once.
+// Every input a fuzzer found to break a decoder once, whichever decoder it was.
 TEST_P(PngMutation, FuzzFindingsLoadCleanly) {
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(TestDataPath("crashers"))) {
-        if (entry.path().filename().string().rfind("png-", 0) != 0) continue;
         EXPECT_TRUE(LoadsCleanly(ReadFileBytes(entry.path()))) << entry.path().filename();
         ++files;
     }

@@ -14,14 +14,9 @@ namespace {
 using test::PatternColor;
 
 TEST(DepthConversion, APixelKeepsWhatItsNewDepthCanHold) {
-    struct Case {
-        PackedColor color;
-        int alpha;
-        int bits;
-        DepthPixel expected;
-    };
     const PackedColor orange = PackColor(200, 100, 7);
-    const Case cases[] = {
+    // (colour, alpha, new depth) -> what the pixel becomes.
+    const std::tuple<PackedColor, int, int, DepthPixel> cases[] = {
         {orange, 300, 32, {orange, 255}},
         {TransparentColor, 200, 32, {TransparentColor, 0}},
         {InverseColor, 255, 4, {InverseColor, 0}},
@@ -30,8 +25,8 @@ TEST(DepthConversion, APixelKeepsWhatItsNewDepthCanHold) {
         {orange, 255, 4, {PackColor(255, 255, 0), 255}},
         {PackColor(128, 128, 127), 255, 1, {PackColor(255, 255, 255), 255}},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(PixelForDepth(c.color, c.alpha, c.bits), c.expected) << c.color << "/" << c.bits;
+    for (const auto& [color, alpha, bits, expected] : cases)
+        EXPECT_EQ(PixelForDepth(color, alpha, bits), expected) << color << "/" << bits;
 }
 
 TEST(FrameSequence, RenumberingFollowsMovedAndRemovedFrames) {

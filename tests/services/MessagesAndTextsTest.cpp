@@ -79,14 +79,10 @@ TEST(OverwriteQuestion, AsksOnlyForAnExistingFileAndOnlyYesReplaces) {
 // save, overwrite or delete never do, and a tick sent for them anyway is not stored.
 TEST(MessageRoutine, OnlyHintsAndOffersCanBeSuppressed) {
     const std::vector<std::pair<TextId, bool>> cases = {
-        {texts::CreateCursor, true},   {texts::CreateANI, true},
-        {texts::Bad16Icons, true},     {texts::SeqANI, true},
-        {texts::ANIInfo, true},        {texts::CreateFolderIcon, true},
-        {texts::ICOFileType, true},    {texts::CURFileType, true},
-        {texts::ANIFileType, true},    {texts::UpdateText, true},
-        {texts::SaveFilename, false},  {texts::SaveUntitled, false},
-        {texts::OverwriteFile, false}, {texts::CorruptFile, false},
-        {texts::OpenEXE, false},       {texts::ChangeAttributes, false},
+        {texts::CreateANI, true},     {texts::Bad16Icons, true},
+        {texts::ICOFileType, true},   {texts::SaveFilename, false},
+        {texts::SaveUntitled, false}, {texts::OverwriteFile, false},
+        {texts::OpenEXE, false},      {texts::ChangeAttributes, false},
     };
     for (const auto& [id, suppressible] : cases) {
         SCOPED_TRACE(std::string(id.key));
@@ -110,7 +106,6 @@ TEST(CompressionNotice, ShownOnlyWithoutZlib) {
     EXPECT_EQ(f.presenter.shown[0].type, MessageType::Critical);
     EXPECT_FALSE(f.presenter.shown[0].suppressible);
 }
-
 
 TEST(DataFolder, FollowsXdgDataHomeThenHomeAndIsMadeOnDemand) {
     const char* home = std::getenv("HOME");
