@@ -48,10 +48,11 @@ void FramesRatesAndSequenceKept(const Path& file) {
 // A 256-pixel PNG entry went into cursors as PNG, which the cursor reader never finds.
 void SamePixelsInCursors(const Path& file) {
     const IconSet set = ReadAsNamed(file);
-    test::SilentContext context;
+    QuietContext quiet;
+    CoreContext& context = quiet.Context();
     for (const auto& [bytes, name] :
-         {std::pair{BuildCursorFile(set, 0, 0, 0, context.core), "c.cur"},
-          std::pair{BuildAnimatedCursor(set, context.core), "c.ani"}}) {
+         {std::pair{BuildCursorFile(set, 0, 0, 0, context), "c.cur"},
+          std::pair{BuildAnimatedCursor(set, context), "c.ani"}}) {
         IconSet back;
         ASSERT_TRUE(bytes && ReadIconData(*bytes, name, back, context.progress).Ok());
         EXPECT_TRUE(test::SamePixels(set.Image(0), back.Image(0))) << name;

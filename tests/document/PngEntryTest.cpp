@@ -92,8 +92,9 @@ TEST(PngEntries, AreDecodedWhenNeededAndSavedAsReadUntilChanged) {
 TEST(PngEntries, BrokenStreamStaysBlankAndTheReadGoesOn) {
     IconSet set = test::SetOf(PngImage(16, 16));
     set.InsertIcon(1, test::MakeImage(16, 16, 24, test::PatternColor));
-    test::SilentContext context;
-    test::Bytes b = EncodeIconFile(set, context.core).value();
+    QuietContext quiet;
+    CoreContext& context = quiet.Context();
+    test::Bytes b = EncodeIconFile(set, context).value();
     const std::size_t pngAt = LoadLE32(&b[6 + 12]);
     b[pngAt + 20] ^= 0xFF;  // inside IHDR: its CRC no longer matches or its size is wrong
     b[pngAt + 40] ^= 0xFF;

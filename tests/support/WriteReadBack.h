@@ -16,29 +16,16 @@
 #include "document/io/IconFileReader.h"
 #include "document/io/IconFileWriter.h"
 #include "document/io/PngEntryDecoder.h"
-#include "services/core/XmlStore.h"
+#include "services/core/QuietContext.h"
 #include "support/TestImages.h"
 
 namespace iw::test {
 
-class SilentPresenter final : public IMessagePresenter {
-  public:
-    MessageBoxResult Present(const MessageBoxRequest&) override { return {}; }
-};
-
-// A context for the writers that shows nothing.
-struct SilentContext {
-    XmlStore store;
-    SilentPresenter presenter;
-    MessageService messages{store, presenter};
-    NullProgress progress;
-    NullLog log;
-    CoreContext core{messages, progress, log};
-};
-
 // Every PNG stream in an icon file we wrote has the directory sides of its own IHDR.
 inline bool PngEntriesHaveTheirOwnSides(std::span<const std::uint8_t> ico) {
+    if (ico.size() < 6) return false;
     for (std::size_t i = 0; i < LoadLE16(ico.data() + 4); ++i) {
+        if (!RangeFits(6 + 16 * i, 16, ico.size())) return false;
         const std::uint8_t* entry = ico.data() + 6 + 16 * i;
         const std::uint32_t size = LoadLE32(entry + 8), offset = LoadLE32(entry + 12);
         if (!RangeFits(offset, size, ico.size())) return false;
@@ -57,8 +44,9 @@ inline bool PngEntriesHaveTheirOwnSides(std::span<const std::uint8_t> ico) {
 // the same pixels wherever the depth holds them exactly (PNG entries, square 24- and 32-bit
 // bitmaps). Empty when all holds, else what did not.
 inline std::string CheckWriteAndReadBack(const IconSet& set) {
-    SilentContext context;
-    const std::optional<std::vector<std::uint8_t>> ico = EncodeIconFile(set, context.core);
+    QuietContext quiet;
+    CoreContext& context = quiet.Context();
+    const std::optional<std::vector<std::uint8_t>> ico = EncodeIconFile(set, context);
     if (!ico) return "the icon could not be written";
     IconSet back;
     if (!ReadIconData(*ico, "w.ico", back, context.progress).Ok()) {
@@ -83,12 +71,12 @@ inline std::string CheckWriteAndReadBack(const IconSet& set) {
         return "a PNG entry's directory sides are not its IHDR's";
 
     const auto cursor =
-        BuildCursorFile(set, 0, set.properties.hotspotX, set.properties.hotspotY, context.core);
+        BuildCursorFile(set, 0, set.properties.hotspotX, set.properties.hotspotY, context);
     if (!cursor) return "the cursor could not be written";
     if (!ReadIconData(*cursor, "w.cur", back, context.progress).Ok()) {
         return "the cursor written does not read back";
     }
-    const auto animated = BuildAnimatedCursor(set, context.core);
+    const auto animated = BuildAnimatedCursor(set, context);
     if (!animated) return "the animated cursor could not be written";
     if (!ReadIconData(*animated, "w.ani", back, context.progress).Ok()) {
         return "the animated cursor written does not read back";
