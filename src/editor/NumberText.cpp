@@ -8,15 +8,6 @@
 namespace iw {
 namespace {
 
-std::string_view Trim(std::string_view text) {
-    const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
-    while (!text.empty() && blank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && blank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 // An optional sign, digits and at most one decimal point, nothing else.
 bool PlainNumberSyntax(std::string_view text) {
     std::size_t i = 0;
@@ -39,7 +30,7 @@ bool PlainNumberSyntax(std::string_view text) {
 }  // namespace
 
 std::optional<double> ParseNumber(std::string_view text) {
-    text = Trim(text);
+    text = TrimBlanks(text);
     if (!PlainNumberSyntax(text)) return std::nullopt;
     if (text.front() == '+') text.remove_prefix(1);
     double value = 0;
@@ -50,7 +41,7 @@ std::optional<double> ParseNumber(std::string_view text) {
 }
 
 std::optional<int> ParseInteger(std::string_view text) {
-    return iw::ParseInteger<int>(Trim(text));
+    return ParseTypedInteger<int>(text);
 }
 
 std::string NumberText(int value) {

@@ -124,10 +124,7 @@ RgbaBuffer FittedOverlay(const RgbaBuffer& picture, const FolderOverlay& overlay
 }  // namespace
 
 std::optional<int> OverlayFieldValue(std::string_view text, const OverlayField& field) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return std::nullopt;
-    text = text.substr(first, text.find_last_not_of(" \t") - first + 1);
-    const std::optional<int> value = ParseInteger<int>(text);
+    const std::optional<int> value = ParseTypedInteger<int>(text);
     if (!value || *value < field.min || *value > field.max) return std::nullopt;
     return value;
 }

@@ -25,4 +25,20 @@ requires(!std::same_as<T, bool>) std::optional<T> ParseInteger(std::string_view 
     return value;
 }
 
+// `text` without the blanks (spaces, tabs, line breaks) round it.
+constexpr std::string_view TrimBlanks(std::string_view text) {
+    const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    while (!text.empty() && blank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && blank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+// An integer as a user types it into a box: blanks round it are allowed.
+template <std::integral T>
+requires(!std::same_as<T, bool>) std::optional<T> ParseTypedInteger(std::string_view text) {
+    return ParseInteger<T>(TrimBlanks(text));
+}
+
 }  // namespace iw
