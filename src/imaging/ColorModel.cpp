@@ -5,18 +5,10 @@
 #include <cmath>
 
 #include "imaging/Rounding.h"
+#include "services/core/ParseInteger.h"
 
 namespace iw {
 namespace {
-
-std::string_view Trimmed(std::string_view text) {
-    const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && blank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && blank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 int HexDigit(char c) {
     if (c >= '0' && c <= '9') return c - '0';
@@ -82,7 +74,7 @@ std::string LongText(PackedColor color) {
 }
 
 std::optional<PackedColor> ParseLongText(std::string_view text) {
-    text = Trimmed(text);
+    text = TrimBlanks(text);
     if (text.empty() || text.size() > 8) return std::nullopt;
     int value = 0;
     for (const char c : text) {
@@ -104,7 +96,7 @@ std::string HexText(PackedColor color) {
 }
 
 std::optional<PackedColor> ParseHexText(std::string_view text) {
-    text = Trimmed(text);
+    text = TrimBlanks(text);
     if (!text.empty() && text.front() == '#') text.remove_prefix(1);
     if (text.size() != 6 && text.size() != 3) return std::nullopt;
     std::array<int, 3> channels{};
