@@ -42,7 +42,7 @@ TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
             EXPECT_EQ(image.At(200, 3, IconImage::ColorPlane), 0);
         }
     }
-    // A whole image and its copy freed: the next image reads zero too.
+    // A whole image and its copy freed: the next image made reads zero.
     IconImage full;
     for (int plane : {IconImage::ColorPlane, IconImage::AlphaPlane})
         std::ranges::fill(full.PlaneCells(plane), 7);
@@ -51,7 +51,7 @@ TEST(IconImageReuse, ANewImageReadsZeroAfterFreedImagesWereDrawnInto) {
     clone = IconImage();
     IconImage fresh;
     fresh.Alpha(0, 0) = 0;
-    EXPECT_TRUE(AllZero(fresh) && AllZero(full));
+    EXPECT_TRUE(AllZero(fresh));
 }
 
 }  // namespace
