@@ -13,11 +13,6 @@ QRect FitInto(const QRect& box, QSize size) {
             box.y() + (box.height() - size.height()) / 2, size.width(), size.height()};
 }
 
-void FillChecker(QPainter& painter, const QRect& rect) {
-    painter.setBrushOrigin(rect.topLeft());
-    painter.fillRect(rect, SmallChecker());
-}
-
 void DrawOnChecker(QPainter& painter, const QRect& target, const PixelPicture& picture) {
     FillChecker(painter, target);
     DrawPictureOver(painter, target, picture);

@@ -7,6 +7,7 @@
 
 #include "document/model/IconImage.h"
 #include "ui/widgets/PixelPicture.h"
+#include "ui/widgets/SmallChecker.h"
 
 class QPainter;
 
@@ -14,8 +15,6 @@ namespace iw::ui {
 
 // The picture's place in `box`: centred, at its own size when it fits, else scaled down.
 QRect FitInto(const QRect& box, QSize size);
-// The checker that shows where a frame is transparent.
-void FillChecker(QPainter& painter, const QRect& rect);
 // The picture drawn into `target` over the checker.
 void DrawOnChecker(QPainter& painter, const QRect& target, const PixelPicture& picture);
 // A side x side picture of a frame for a label, sharp at the given device pixel ratio.

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "document/io/PictureImport.h"
+#include "ui/widgets/SmallChecker.h"
 
 namespace iw::ui {
 namespace {
@@ -17,16 +18,6 @@ constexpr int kTaskBarSide = 32;
 constexpr int kTitleBarSide = 16;
 constexpr int kTitleTextLeft = 8 + kTitleBarSide + 8;
 constexpr int kTitleButtons = 110;  // room for the three window buttons at the right
-
-void FillChecker(QPainter& painter, const QRect& area) {
-    constexpr int square = 8;
-    painter.fillRect(area, QColor(255, 255, 255));
-    for (int y = area.top(); y <= area.bottom(); y += square) {
-        for (int x = area.left() + (((y - area.top()) / square) % 2) * square; x <= area.right();
-             x += 2 * square)
-            painter.fillRect(QRect(x, y, square, square).intersected(area), QColor(204, 209, 216));
-    }
-}
 
 }  // namespace
 
@@ -61,7 +52,7 @@ void SetStrip::paintEvent(QPaintEvent*) {
             painter.fillRect(rect(), QColor(32, 33, 36));
             break;
         case StripBackground::Checkered:
-            FillChecker(painter, rect());
+            FillChecker(painter, rect(), 8);
             break;
     }
     // Bottoms on one line, as icons stand on a shelf.
